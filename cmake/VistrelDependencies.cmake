@@ -1,0 +1,39 @@
+# Finds the libraries Vistrel builds with. A missing one stops configuration with the
+# exact command that installs it.
+
+if(APPLE)
+  set(VISTREL_INSTALL_HINT "brew install")
+else()
+  set(VISTREL_INSTALL_HINT "sudo apt-get install -y")
+endif()
+
+function(vistrel_require found what debian_package brew_package)
+  if(NOT ${found})
+    if(APPLE)
+      set(package ${brew_package})
+    else()
+      set(package ${debian_package})
+    endif()
+    message(FATAL_ERROR "${what} is missing. Install it with: ${VISTREL_INSTALL_HINT} ${package}")
+  endif()
+endfunction()
+
+find_package(Threads REQUIRED)
+
+find_package(nlohmann_json 3.10 QUIET)
+vistrel_require(nlohmann_json_FOUND "nlohmann/json" nlohmann-json3-dev nlohmann-json)
+
+find_package(GTest QUIET)
+vistrel_require(GTest_FOUND "GoogleTest" "googletest libgtest-dev libgmock-dev" googletest)
+
+if(VISTREL_BENCHMARKS)
+  find_package(benchmark QUIET)
+  vistrel_require(benchmark_FOUND "Google Benchmark" libbenchmark-dev google-benchmark)
+endif()
+
+find_package(PkgConfig QUIET)
+vistrel_require(PKG_CONFIG_FOUND "pkg-config" pkg-config pkg-config)
+pkg_check_modules(Cairo QUIET IMPORTED_TARGET cairo)
+vistrel_require(Cairo_FOUND "Cairo" libcairo2-dev cairo)
+pkg_check_modules(Freetype QUIET IMPORTED_TARGET freetype2)
+vistrel_require(Freetype_FOUND "FreeType" libfreetype-dev freetype)

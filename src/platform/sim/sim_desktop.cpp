@@ -1,0 +1,101 @@
+#include "platform/sim/sim_desktop.h"
+
+#include <algorithm>
+
+namespace vistrel {
+
+namespace {
+constexpr std::uint32_t firstDisplayID = 1;
+
+ScreenDescription screenAt(Rect frame, std::uint32_t displayID) {
+    Rect visible = frame;
+    visible.height -= simMenuBarHeight + simDockHeight;
+    visible.y += simDockHeight;  // AppKit: the Dock is at the bottom, y grows upwards
+    return {frame, visible, displayID, 2};
+}
+}  // namespace
+
+SimDesktop::SimDesktop()
+    : executor_(clock_),
+      accessibility_(*this),
+      windowServer_(*this),
+      workspace_(*this),
+      defaults_(bundle.identifier),
+      screenList_(*this),
+      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_, eventTap_,
+                executor_,      clock_,        systemLog_, loginItem_,  windowHost_} {
+    screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
+}
+
+SimDesktop::~SimDesktop() = default;
+
+Pid SimDesktop::addApplication(SimApplication application) {
+    if (application.pid == 0) application.pid = nextPid_++;
+    const Pid pid = application.pid;
+    applications_.push_back(std::move(application));
+    return pid;
+}
+
+SimApplication* SimDesktop::application(Pid pid) {
+    auto found = std::find_if(applications_.begin(), applications_.end(),
+                              [pid](const SimApplication& app) { return app.pid == pid; });
+    return found == applications_.end() ? nullptr : &*found;
+}
+
+void SimDesktop::removeApplication(Pid pid) {
+    for (SimWindowId id : windowsOf(pid)) closeWindow(id);
+    std::erase_if(applications_, [pid](const SimApplication& app) { return app.pid == pid; });
+}
+
+SimWindowId SimDesktop::addWindow(Pid pid, SimWindow window) {
+    window.id = nextWindowId_++;
+    window.pid = pid;
+    windows_.insert(windows_.begin(), window);
+    return window.id;
+}
+
+SimWindow* SimDesktop::window(SimWindowId id) {
+    auto found = std::find_if(windows_.begin(), windows_.end(),
+                              [id](const SimWindow& w) { return w.id == id; });
+    return found == windows_.end() ? nullptr : &*found;
+}
+
+std::vector<SimWindowId> SimDesktop::windowsOf(Pid pid) const {
+    std::vector<SimWindowId> ids;
+    for (const SimWindow& w : windows_) {
+        if (w.pid == pid && !w.closed) ids.push_back(w.id);
+    }
+    return ids;
+}
+
+void SimDesktop::bringToFront(SimWindowId id) {
+    auto found = std::find_if(windows_.begin(), windows_.end(),
+                              [id](const SimWindow& w) { return w.id == id; });
+    if (found != windows_.end()) std::rotate(windows_.begin(), found, found + 1);
+}
+
+void SimDesktop::closeWindow(SimWindowId id) {
+    if (SimWindow* w = window(id)) w->closed = true;
+}
+
+bool SimDesktop::isOnScreen(const SimWindow& window) const {
+    if (window.closed || window.minimized) return false;
+    auto app = std::find_if(applications_.begin(), applications_.end(),
+                            [&](const SimApplication& a) { return a.pid == window.pid; });
+    return app == applications_.end() || (!app->hidden && !app->terminated);
+}
+
+std::optional<SimWindowId> SimDesktop::windowAt(Point point) const {
+    for (const SimWindow& w : windows_) {
+        if (isOnScreen(w) && w.frame.contains(point)) return w.id;
+    }
+    return std::nullopt;
+}
+
+void SimDesktop::addScreenToTheRight(Size size) {
+    const Rect& last = screens_.back().frame;
+    const Rect frame{last.maxX(), last.maxY() - size.height, size.width, size.height};
+    screens_.push_back(screenAt(frame, firstDisplayID + static_cast<std::uint32_t>(screens_.size())));
+}
+
+}  // namespace vistrel

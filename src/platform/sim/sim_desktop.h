@@ -1,0 +1,117 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_clock.h"
+#include "platform/sim/sim_defaults.h"
+#include "platform/sim/sim_event_tap_port.h"
+#include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_login_item.h"
+#include "platform/sim/sim_model.h"
+#include "platform/sim/sim_system_log.h"
+#include "platform/sim/sim_window_host.h"
+#include "platform/sim/sim_window_server.h"
+#include "platform/sim/sim_workspace.h"
+
+namespace vistrel {
+
+// The simulated screen size every scene starts with.
+inline constexpr Rect simPrimaryScreen{0, 0, 1440, 900};
+// The menu bar's and the Dock's share of a simulated screen, in points.
+inline constexpr double simMenuBarHeight = 25;
+inline constexpr double simDockHeight = 70;
+
+// One coherent simulated desktop: applications and their windows, screens, the defaults
+// domains, the Accessibility grant, the login item, the system log, an event stream and
+// virtual time. Every platform interface reads and writes this one model, so a test can
+// act through the core and look at the result here.
+class SimDesktop {
+public:
+    // An empty desktop with one 1440×900 screen, trusted for Accessibility, as the agent
+    // itself ("com.quillmarsh.vistrel").
+    SimDesktop();
+    ~SimDesktop();
+    SimDesktop(const SimDesktop&) = delete;
+    SimDesktop& operator=(const SimDesktop&) = delete;
+
+    Platform& platform() { return platform_; }
+    SimClock& clock() { return clock_; }
+    SimExecutor& executor() { return executor_; }
+    SimAccessibility& accessibility() { return accessibility_; }
+    SimWindowServer& windowServer() { return windowServer_; }
+    SimWorkspace& workspace() { return workspace_; }
+    SimDefaults& defaults() { return defaults_; }
+    SimEventTapPort& eventTap() { return eventTap_; }
+    SimSystemLog& systemLog() { return systemLog_; }
+    SimLoginItem& loginItem() { return loginItem_; }
+    SimWindowHost& windowHost() { return windowHost_; }
+
+    // Applications, in the workspace's order.
+    Pid addApplication(SimApplication application);
+    SimApplication* application(Pid pid);
+    const std::vector<SimApplication>& applications() const { return applications_; }
+    void removeApplication(Pid pid);
+
+    // Windows, front to back. A new window opens in front of the others.
+    SimWindowId addWindow(Pid pid, SimWindow window);
+    SimWindow* window(SimWindowId id);
+    const std::vector<SimWindow>& windows() const { return windows_; }
+    std::vector<SimWindowId> windowsOf(Pid pid) const;
+    void bringToFront(SimWindowId id);
+    void closeWindow(SimWindowId id);
+    // Windows the window server shows: open, not minimized, application not hidden or gone.
+    bool isOnScreen(const SimWindow& window) const;
+    // The front-most on-screen window containing the point.
+    std::optional<SimWindowId> windowAt(Point point) const;
+
+    // Screens, in NSScreen.screens order, frames in AppKit coordinates.
+    std::vector<ScreenDescription>& screens() { return screens_; }
+    std::optional<std::size_t> mainScreenIndex = 0;
+    // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
+    void addScreenToTheRight(Size size);
+
+    // The agent's own process and bundle.
+    Pid ownPid = 100;
+    BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1", "/Applications/Vistrel.app"};
+
+    // The Accessibility grant.
+    bool trusted = true;
+    int trustPrompts = 0;
+
+private:
+    SimClock clock_;
+    SimExecutor executor_;
+    SimAccessibility accessibility_;
+    SimWindowServer windowServer_;
+    SimWorkspace workspace_;
+    SimDefaults defaults_;
+    SimEventTapPort eventTap_;
+    SimSystemLog systemLog_;
+    SimLoginItem loginItem_;
+    SimWindowHost windowHost_;
+    SimScreenList screenList_;
+    Platform platform_;
+
+    std::vector<SimApplication> applications_;
+    std::vector<SimWindow> windows_;
+    std::vector<ScreenDescription> screens_;
+    SimWindowId nextWindowId_ = 1;
+    Pid nextPid_ = 500;
+};
+
+// Installs a desktop as the platform for the lifetime of this object.
+class ScopedPlatform {
+public:
+    explicit ScopedPlatform(SimDesktop& desktop) { installPlatform(&desktop.platform()); }
+    ~ScopedPlatform() { installPlatform(nullptr); }
+    ScopedPlatform(const ScopedPlatform&) = delete;
+    ScopedPlatform& operator=(const ScopedPlatform&) = delete;
+};
+
+}  // namespace vistrel

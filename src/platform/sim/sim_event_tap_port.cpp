@@ -1,0 +1,52 @@
+#include "platform/sim/sim_event_tap_port.h"
+
+namespace vistrel {
+
+namespace {
+constexpr unsigned maskBits = 64;
+
+bool isDisableNotice(EventType type) {
+    return type == EventType::tapDisabledByTimeout || type == EventType::tapDisabledByUserInput;
+}
+}  // namespace
+
+bool SimEventTapPort::create(std::uint64_t mask, Handler handler) {
+    if (creationFails) return false;
+    handler_ = std::move(handler);
+    mask_ = mask;
+    exists_ = true;
+    valid_ = true;
+    enabled_ = false;
+    ++creations_;
+    return true;
+}
+
+bool SimEventTapPort::addToMainRunLoop() {
+    if (sourceFails || !exists_) return false;
+    inRunLoop_ = true;
+    return true;
+}
+
+void SimEventTapPort::enable(bool on) {
+    if (!exists_) return;
+    enabled_ = on;
+    if (on) ++enables_;
+}
+
+void SimEventTapPort::invalidate() {
+    exists_ = false;
+    valid_ = false;
+    inRunLoop_ = false;
+    enabled_ = false;
+    handler_ = nullptr;
+}
+
+bool SimEventTapPort::deliver(const InputEvent& event) {
+    if (!exists_ || !valid_ || !inRunLoop_ || !handler_) return true;
+    if (isDisableNotice(event.type)) return handler_(event);
+    const auto type = static_cast<std::uint32_t>(event.type);
+    const bool tapped = enabled_ && type < maskBits && (mask_ & (std::uint64_t{1} << type)) != 0;
+    return tapped ? handler_(event) : true;
+}
+
+}  // namespace vistrel

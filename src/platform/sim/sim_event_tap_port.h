@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/event_tap_port.h"
+
+namespace vistrel {
+
+// The event stream of the simulation and the one tap on it. Events are delivered with
+// deliver(); the answer says whether the event went on to the system (true) or was
+// swallowed by the tap (false).
+class SimEventTapPort : public EventTapPort {
+public:
+    bool create(std::uint64_t mask, Handler handler) override;
+    bool addToMainRunLoop() override;
+    void enable(bool on) override;
+    bool isValid() override { return exists_ && valid_; }
+    void invalidate() override;
+
+    // Delivers one event: through the tap when one runs and its mask holds the type (the
+    // two disable notices always reach a tap), otherwise straight on.
+    bool deliver(const InputEvent& event);
+
+    // Faults: tap creation or its run-loop source fails; the system invalidates the port.
+    bool creationFails = false;
+    bool sourceFails = false;
+    void invalidateBySystem() { valid_ = false; }
+    // The system disables the tap, as it does when a callback is too slow.
+    void disableBySystem() { enabled_ = false; }
+
+    bool exists() const { return exists_; }
+    bool enabled() const { return enabled_; }
+    std::uint64_t mask() const { return mask_; }
+    int creations() const { return creations_; }
+    int enables() const { return enables_; }
+
+private:
+    Handler handler_;
+    std::uint64_t mask_ = 0;
+    bool exists_ = false;
+    bool valid_ = false;
+    bool inRunLoop_ = false;
+    bool enabled_ = false;
+    int creations_ = 0;
+    int enables_ = 0;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/geometry.h"
+#include "platform/process.h"
+#include "platform/workspace.h"
+
+namespace vistrel {
+
+using SimWindowId = std::uint64_t;
+
+// How a simulated window answers a request to minimize.
+enum class MinimizeBehavior {
+    obeys,                          // "AXMinimized" and the button both work
+    refusesAttributeObeysButton,    // writing "AXMinimized" fails; pressing the button works
+    never,                          // nothing minimizes it
+};
+
+// One window of a simulated application, with everything the accessibility interface
+// reads or writes of it.
+struct SimWindow {
+    SimWindowId id = 0;
+    Pid pid = 0;
+    std::string title;
+    Rect frame;  // accessibility coordinates
+    std::string subrole = "AXStandardWindow";
+    bool minimized = false;
+    bool fullScreen = false;
+    bool closed = false;
+    bool hasCloseButton = true;
+    bool hasMinimizeButton = true;
+    bool hasFullScreenButton = true;
+    bool minimizedSettable = true;
+    bool fullScreenSettable = true;
+    bool positionSettable = true;
+    bool sizeSettable = true;
+    MinimizeBehavior minimizeBehavior = MinimizeBehavior::obeys;
+    std::optional<Size> minimumSize;  // a resize below it is clamped
+    std::int64_t layer = 0;
+};
+
+// One simulated application.
+struct SimApplication {
+    Pid pid = 0;
+    std::string bundleIdentifier;
+    std::string name;
+    ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    bool hidden = false;
+    bool terminated = false;
+    // Accessibility calls on the application's elements never answer: each takes the
+    // element's messaging time-out in virtual time and fails with cannotComplete.
+    bool hung = false;
+    // Virtual seconds every accessibility call on its elements takes.
+    double accessibilityLatency = 0;
+    bool enhancedUserInterface = false;
+};
+
+}  // namespace vistrel

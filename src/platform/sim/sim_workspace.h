@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/screen_list.h"
+#include "platform/workspace.h"
+
+namespace vistrel {
+
+class SimDesktop;
+
+// NSWorkspace over the simulated applications.
+class SimWorkspace : public Workspace {
+public:
+    explicit SimWorkspace(SimDesktop& desktop) : desktop_(desktop) {}
+
+    std::vector<RunningApplication> runningApplications() override;
+    std::optional<RunningApplication> application(Pid pid) override;
+    bool hide(Pid pid) override;
+    bool unhide(Pid pid) override;
+    bool activate(Pid pid) override;
+    bool terminate(Pid pid) override;
+    bool forceTerminate(Pid pid) override;
+    std::optional<std::string> applicationURL(const std::string& bundleIdentifier) override;
+    void openApplication(const std::string& url, const OpenConfiguration& configuration,
+                         OpenCompletion completion) override;
+    bool openURL(const std::string& url) override;
+    Pid ownPid() override;
+    BundleInfo mainBundle() override;
+
+    // Installed applications by bundle identifier: where each one lives.
+    std::map<std::string, std::string> installed;
+    // How an application is launched; without it openApplication fails.
+    std::function<void(const std::string& url, const OpenConfiguration&, OpenCompletion)> launcher;
+    std::vector<std::string> openedURLs;
+    std::vector<Pid> activations;
+
+private:
+    SimDesktop& desktop_;
+};
+
+// NSScreen over the simulated screens.
+class SimScreenList : public ScreenList {
+public:
+    explicit SimScreenList(SimDesktop& desktop) : desktop_(desktop) {}
+    std::vector<ScreenDescription> screens() override;
+    std::optional<std::size_t> mainScreenIndex() override;
+
+private:
+    SimDesktop& desktop_;
+};
+
+}  // namespace vistrel

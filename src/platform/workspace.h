@@ -1,0 +1,72 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/process.h"
+
+namespace vistrel {
+
+// NSApplicationActivationPolicy.
+enum class ActivationPolicy { regular, accessory, prohibited };
+
+// What the agent reads of one NSRunningApplication.
+struct RunningApplication {
+    Pid pid = 0;
+    std::optional<std::string> bundleIdentifier;
+    std::optional<std::string> localizedName;
+    ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    bool hidden = false;
+    bool terminated = false;
+
+    friend bool operator==(const RunningApplication&, const RunningApplication&) = default;
+};
+
+// NSWorkspaceOpenConfiguration, as far as the agent sets it.
+struct OpenConfiguration {
+    bool activates = true;
+    bool hides = false;
+    std::vector<std::string> arguments;
+    bool createsNewApplicationInstance = false;
+};
+
+// The main bundle of the running process.
+struct BundleInfo {
+    std::optional<std::string> identifier;    // CFBundleIdentifier
+    std::string version;                      // CFBundleShortVersionString
+    std::string build;                        // CFBundleVersion
+    std::string path;                         // the bundle's folder
+};
+
+// NSWorkspace and NSRunningApplication.
+class Workspace {
+public:
+    virtual ~Workspace() = default;
+    using OpenCompletion = std::function<void(bool ok, const std::string& error)>;
+
+    // NSWorkspace.runningApplications, in the workspace's order.
+    virtual std::vector<RunningApplication> runningApplications() = 0;
+    // NSRunningApplication(processIdentifier:); nothing when no such process runs.
+    virtual std::optional<RunningApplication> application(Pid pid) = 0;
+    // hide(), unhide(), activate(), terminate(), forceTerminate(): whether the call succeeded.
+    virtual bool hide(Pid pid) = 0;
+    virtual bool unhide(Pid pid) = 0;
+    virtual bool activate(Pid pid) = 0;
+    virtual bool terminate(Pid pid) = 0;
+    virtual bool forceTerminate(Pid pid) = 0;
+    // urlForApplication(withBundleIdentifier:): the application's path, if it is installed.
+    virtual std::optional<std::string> applicationURL(const std::string& bundleIdentifier) = 0;
+    // openApplication(at:configuration:completionHandler:). The completion runs on the main queue.
+    virtual void openApplication(const std::string& url, const OpenConfiguration& configuration,
+                                 OpenCompletion completion) = 0;
+    // NSWorkspace.open(URL): false when the text is not a URL or nothing opened it.
+    virtual bool openURL(const std::string& url) = 0;
+    // The agent's own process identifier (ProcessInfo.processIdentifier).
+    virtual Pid ownPid() = 0;
+    // Bundle.main.
+    virtual BundleInfo mainBundle() = 0;
+};
+
+}  // namespace vistrel

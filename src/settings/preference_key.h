@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string_view>
+
+namespace vistrel {
+
+// Every key of the shared preferences domain. Preferences are written by the Settings app
+// and read by the agent at the moment of use; "agent." keys are the agent's status, written
+// by the agent only when their value changes.
+namespace PreferenceKey {
+inline constexpr std::string_view showMinimizeButton = "showMinimizeButton";
+inline constexpr std::string_view showMaximizeButton = "showMaximizeButton";
+inline constexpr std::string_view buttonSizeOption = "buttonSizeOption";
+inline constexpr std::string_view buttonTheme = "buttonTheme";
+inline constexpr std::string_view maximizeMode = "maximizeMode";
+inline constexpr std::string_view menuBarIconHidden = "menuBarIconHidden";
+inline constexpr std::string_view onboardingCompleted = "onboardingCompleted";
+inline constexpr std::string_view layoutsEnabled = "layouts.enabled";
+inline constexpr std::string_view layoutsShelf = "layouts.shelf";
+inline constexpr std::string_view layoutsLaunchApps = "layouts.launchApps";
+inline constexpr std::string_view layoutsGap = "layouts.gap";
+inline constexpr std::string_view layoutsSaved = "layouts.saved";
+inline constexpr std::string_view layoutsDebugGeometry = "layouts.debugGeometry";
+inline constexpr std::string_view layoutsDebugShelf = "layouts.debug.shelf";
+
+inline constexpr std::string_view agentAccessibilityTrusted = "agent.accessibilityTrusted";
+inline constexpr std::string_view agentLaunchAtLogin = "agent.launchAtLogin";
+inline constexpr std::string_view agentLaunchAtLoginNeedsApproval = "agent.launchAtLoginNeedsApproval";
+}  // namespace PreferenceKey
+
+// Values of "maximizeMode".
+namespace MaximizeMode {
+inline constexpr std::string_view fill = "fill";
+inline constexpr std::string_view fullScreen = "fullscreen";
+}  // namespace MaximizeMode
+
+}  // namespace vistrel
