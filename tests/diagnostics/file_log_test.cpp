@@ -20,7 +20,7 @@ using testing::TempDir;
 using testing::readFile;
 
 // 2026-11-15T03:19:02.123Z
-constexpr double sampleTime = 1'763'176'742.123;
+constexpr double sampleTime = 1'794'712'742.123;
 constexpr std::size_t stampLength = 24;  // "2026-11-15T03:19:02.123Z"
 
 class FileLogTest : public ::testing::Test {
@@ -70,8 +70,8 @@ TEST_F(FileLogTest, WriteHandsTheLineToTheQueueWithoutTouchingTheFile) {
 
 TEST_F(FileLogTest, LineCrossingTheLimitIsWrittenWholeThenTheFileRotates) {
     FileLog log = makeLog();
-    fill(log.current(), 999'990);
-    const std::string message(30 - stampLength - 7, 'm');  // the line is 30 bytes
+    const std::string message = "m";  // with its stamp and level, a 32-byte line
+    fill(log.current(), 1'000'020 - (stampLength + message.size() + 7));
     log.write("INFO", message);
     log.flush();
     EXPECT_FALSE(fs::exists(log.current()));
@@ -114,8 +114,8 @@ TEST_F(FileLogTest, FilesListsOnlyTheCurrentFileWhenThereIsNoPrevious) {
 }
 
 TEST_F(FileLogTest, FilesListsThePreviousFileFirst) {
-    FileLog log = makeLog(10);
-    log.write("INFO", "first, rotated away");
+    FileLog log = makeLog(60);
+    log.write("INFO", "first line, long enough to rotate");
     log.write("INFO", "second");
     log.flush();
     log.write("INFO", "third");

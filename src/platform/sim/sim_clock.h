@@ -11,7 +11,7 @@ namespace vistrel {
 class SimClock : public Clock {
 public:
     // 2026-11-15T03:19:02Z: a fixed start, so log lines and pictures are reproducible.
-    static constexpr double defaultStart = 1'763'176'742.0;
+    static constexpr double defaultStart = 1'794'712'742.0;
 
     double now() override { return now_.load(); }
     void sleep(double seconds) override { advanceBy(seconds); }

@@ -70,14 +70,16 @@ std::shared_ptr<SerialQueue> SimExecutor::makeQueue(const std::string& label,
                                                     QualityOfService quality) {
     auto queue = std::make_shared<SimQueue>(*this, label, quality);
     std::lock_guard lock(mutex_);
-    queues_[label] = queue;
+    queues_.push_back(queue);
     return queue;
 }
 
 std::shared_ptr<SimQueue> SimExecutor::queue(const std::string& label) const {
     std::lock_guard lock(mutex_);
-    auto found = queues_.find(label);
-    return found == queues_.end() ? nullptr : found->second.lock();
+    for (auto it = queues_.rbegin(); it != queues_.rend(); ++it) {
+        if ((*it)->label() == label) return *it;
+    }
+    return nullptr;
 }
 
 std::unique_ptr<Timer> SimExecutor::oneShot(double interval, double tolerance, Task fire) {
@@ -109,9 +111,7 @@ void SimExecutor::cancel(std::uint64_t token) {
 std::vector<std::shared_ptr<SimQueue>> SimExecutor::liveQueues() const {
     std::lock_guard lock(mutex_);
     std::vector<std::shared_ptr<SimQueue>> live{main_};
-    for (const auto& [label, weak] : queues_) {
-        if (auto queue = weak.lock()) live.push_back(queue);
-    }
+    live.insert(live.end(), queues_.begin(), queues_.end());
     return live;
 }
 

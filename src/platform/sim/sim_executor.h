@@ -63,7 +63,8 @@ public:
     std::unique_ptr<Timer> oneShot(double interval, double tolerance, Task fire) override;
 
     SimQueue& mainQueue() { return *main_; }
-    // The queue made with this label, if one was made (and is still alive).
+    // The newest queue made with this label, if one was made. Like dispatch queues, the
+    // simulation's queues live on while work is pending on them, even after their owner let go.
     std::shared_ptr<SimQueue> queue(const std::string& label) const;
     SimClock& clock() { return clock_; }
 
@@ -95,7 +96,7 @@ private:
     SimClock& clock_;
     std::shared_ptr<SimQueue> main_;
     mutable std::mutex mutex_;
-    std::map<std::string, std::weak_ptr<SimQueue>> queues_;
+    std::vector<std::shared_ptr<SimQueue>> queues_;
     std::multimap<std::pair<double, std::uint64_t>, Scheduled> timeline_;
     std::uint64_t nextToken_ = 1;
     std::vector<SimTimerRecord> timerRecords_;
