@@ -39,6 +39,10 @@ int main(int argc, char** argv) {
     SimCommandContext context{std::cout, "out"};
     if (argc > 1) {
         const std::string_view wanted = argv[1];
+        if (wanted == "help" || wanted == "--help") {
+            printUsage(context.out);
+            return 0;
+        }
         for (const SimCommand& command : simCommands()) {
             if (command.name == wanted) return command.run(context);
         }
