@@ -1,0 +1,52 @@
+#include "layouts/layout_match.h"
+
+#include <gtest/gtest.h>
+
+namespace vistrel {
+namespace {
+
+using Pairing = std::vector<std::optional<std::size_t>>;
+
+SavedLayout::Window saved(std::string bundleID, std::string title) {
+    return {std::move(bundleID), "App", std::move(title), {0, 0, 1, 1}, std::nullopt};
+}
+
+TEST(LayoutMatch, ExactTitleIsPreferredOverTheFirstWindowOfTheApplication) {
+    const auto pairing =
+        LayoutMatch::pair({saved("b", "Doc 1"), saved("b", "")}, {{"b", "Doc 2"}, {"b", "Doc 1"}});
+    EXPECT_EQ(pairing, (Pairing{1, 0}));
+}
+
+TEST(LayoutMatch, TitledWindowWinsTheOnlyWindowAlthoughListedSecond) {
+    const auto pairing = LayoutMatch::pair({saved("b", ""), saved("b", "Doc 1")}, {{"b", "Doc 1"}});
+    EXPECT_EQ(pairing, (Pairing{std::nullopt, 0}));
+}
+
+TEST(LayoutMatch, WindowsOfAnApplicationWithNoOpenWindowStayUnpaired) {
+    const auto pairing = LayoutMatch::pair({saved("a", "One"), saved("c", "")}, {{"b", "One"}});
+    EXPECT_EQ(pairing, (Pairing{std::nullopt, std::nullopt}));
+}
+
+TEST(LayoutMatch, NoSavedWindowsGiveTheEmptyPairing) {
+    EXPECT_TRUE(LayoutMatch::pair({}, {{"b", "Doc"}}).empty());
+}
+
+TEST(LayoutMatch, AnOpenWindowIsGivenOnlyOnceAndTheFirstListedWins) {
+    const auto pairing = LayoutMatch::pair({saved("b", ""), saved("b", ""), saved("b", "")},
+                                           {{"b", "X"}, {"a", "Y"}, {"b", "Z"}});
+    EXPECT_EQ(pairing, (Pairing{0, 2, std::nullopt}));
+}
+
+TEST(LayoutMatch, TitledWindowWithoutItsTitleFallsBackToTheApplication) {
+    const auto pairing = LayoutMatch::pair({saved("b", "Gone")}, {{"b", "Other"}});
+    EXPECT_EQ(pairing, (Pairing{0}));
+}
+
+TEST(LayoutMatch, ComparisonIsCaseSensitive) {
+    const auto pairing = LayoutMatch::pair({saved("com.b", "Doc"), saved("com.a", "")},
+                                           {{"com.b", "doc"}, {"com.B", "Doc"}, {"COM.A", ""}});
+    EXPECT_EQ(pairing, (Pairing{0, std::nullopt}));
+}
+
+}  // namespace
+}  // namespace vistrel
