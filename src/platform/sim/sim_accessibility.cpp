@@ -44,29 +44,41 @@ constexpr std::string_view raiseAction = "AXRaise";
 
 bool hasPart(const SimWindow& window, SimWindowPart part) {
     switch (part) {
-        case SimWindowPart::closeButton: return window.hasCloseButton;
-        case SimWindowPart::minimizeButton: return window.hasMinimizeButton;
-        case SimWindowPart::fullScreenButton: return window.hasFullScreenButton;
-        case SimWindowPart::title: return true;
+        case SimWindowPart::closeButton:
+            return window.hasCloseButton;
+        case SimWindowPart::minimizeButton:
+            return window.hasMinimizeButton;
+        case SimWindowPart::fullScreenButton:
+            return window.hasFullScreenButton;
+        case SimWindowPart::title:
+            return true;
     }
     return false;
 }
 
 std::string_view subroleOf(SimWindowPart part) {
     switch (part) {
-        case SimWindowPart::closeButton: return "AXCloseButton";
-        case SimWindowPart::minimizeButton: return "AXMinimizeButton";
-        case SimWindowPart::fullScreenButton: return "AXFullScreenButton";
-        case SimWindowPart::title: return "";
+        case SimWindowPart::closeButton:
+            return "AXCloseButton";
+        case SimWindowPart::minimizeButton:
+            return "AXMinimizeButton";
+        case SimWindowPart::fullScreenButton:
+            return "AXFullScreenButton";
+        case SimWindowPart::title:
+            return "";
     }
     return "";
 }
 
 }  // namespace
 
-AXElement SimAccessibility::systemWide() { return make(Kind::systemWide, 0, 0); }
+AXElement SimAccessibility::systemWide() {
+    return make(Kind::systemWide, 0, 0);
+}
 
-AXElement SimAccessibility::application(Pid pid) { return make(Kind::application, pid, 0); }
+AXElement SimAccessibility::application(Pid pid) {
+    return make(Kind::application, pid, 0);
+}
 
 AXElement SimAccessibility::windowElement(SimWindowId id) {
     const SimWindow* window = desktop_.window(id);
@@ -105,7 +117,8 @@ void SimAccessibility::removeNode(SimNodeId id) {
 std::size_t SimAccessibility::attributeReads() const {
     std::lock_guard lock(mutex_);
     std::size_t total = 0;
-    for (const auto& [name, n] : reads_) total += n;
+    for (const auto& [name, n] : reads_)
+        total += n;
     return total;
 }
 
@@ -132,8 +145,15 @@ void SimAccessibility::count(std::string_view attribute) {
 
 float SimAccessibility::messagingTimeout(const AXElement& element) const {
     std::lock_guard lock(mutex_);
-    auto found = timeouts_.find(element);
-    return found == timeouts_.end() ? defaultTimeout : found->second;
+    const SimHandle* handle = handleOf(element);
+    const AXElement candidates[] = {
+        element, handle != nullptr ? make(Kind::application, handle->pid, 0) : AXElement(),
+        make(Kind::systemWide, 0, 0)};
+    for (const AXElement& candidate : candidates) {
+        auto found = timeouts_.find(candidate);
+        if (found != timeouts_.end()) return found->second;
+    }
+    return defaultTimeout;
 }
 
 AXError SimAccessibility::setMessagingTimeout(const AXElement& element, float seconds) {
@@ -169,8 +189,10 @@ AXError SimAccessibility::copyAttribute(const AXElement& element, std::string_vi
     if (const AXError entered = enter(element); entered != AXError::success) return entered;
     const SimHandle& handle = *handleOf(element);
     switch (handle.kind) {
-        case Kind::systemWide: return AXError::noValue;
-        case Kind::application: return readApplication(handle.pid, attribute, value);
+        case Kind::systemWide:
+            return AXError::noValue;
+        case Kind::application:
+            return readApplication(handle.pid, attribute, value);
         case Kind::node: {
             std::lock_guard lock(mutex_);
             auto node = nodes_.find(handle.id);
@@ -181,7 +203,8 @@ AXError SimAccessibility::copyAttribute(const AXElement& element, std::string_vi
             return AXError::success;
         }
         case Kind::window:
-        case Kind::part: break;
+        case Kind::part:
+            break;
     }
     const SimWindow* window = desktop_.window(handle.id);
     if (window == nullptr || window->closed) return AXError::invalidUIElement;
@@ -190,9 +213,11 @@ AXError SimAccessibility::copyAttribute(const AXElement& element, std::string_vi
 }
 
 AXError SimAccessibility::readApplication(Pid pid, std::string_view attribute, AXValue& value) {
+    if (onApplicationRead) onApplicationRead(pid);
     const SimApplication* app = desktop_.application(pid);
     std::vector<AXElement> windows;
-    for (SimWindowId id : desktop_.windowsOf(pid)) windows.push_back(windowElement(id));
+    for (SimWindowId id : desktop_.windowsOf(pid))
+        windows.push_back(windowElement(id));
     if (attribute == "AXRole") {
         value = std::string("AXApplication");
     } else if (attribute == "AXTitle") {
@@ -353,12 +378,17 @@ AXError SimAccessibility::performAction(const AXElement& element, std::string_vi
 AXError SimAccessibility::press(SimWindow& window, SimWindowPart part) {
     if (!hasPart(window, part)) return AXError::invalidUIElement;
     switch (part) {
-        case SimWindowPart::closeButton: desktop_.closeWindow(window.id); break;
+        case SimWindowPart::closeButton:
+            desktop_.closeWindow(window.id);
+            break;
         case SimWindowPart::minimizeButton:
             if (window.minimizeBehavior != MinimizeBehavior::never) window.minimized = true;
             break;
-        case SimWindowPart::fullScreenButton: window.fullScreen = !window.fullScreen; break;
-        case SimWindowPart::title: return AXError::actionUnsupported;
+        case SimWindowPart::fullScreenButton:
+            window.fullScreen = !window.fullScreen;
+            break;
+        case SimWindowPart::title:
+            return AXError::actionUnsupported;
     }
     return AXError::success;
 }
@@ -393,7 +423,9 @@ AXError SimAccessibility::pid(const AXElement& element, Pid& pid) {
     return AXError::success;
 }
 
-bool SimAccessibility::isProcessTrusted() { return desktop_.trusted; }
+bool SimAccessibility::isProcessTrusted() {
+    return desktop_.trusted;
+}
 
 bool SimAccessibility::promptForTrust() {
     ++desktop_.trustPrompts;

@@ -24,7 +24,7 @@ enum class SimWindowPart { closeButton, minimizeButton, fullScreenButton, title 
 // windows' buttons and titles are derived from the desktop model; further elements (the
 // Dock's Mission Control tree) are free nodes with stored attributes.
 class SimAccessibility : public Accessibility {
-public:
+  public:
     // The system's default messaging time-out, for elements the agent never set one on.
     static constexpr float defaultTimeout = 6.0f;
     // The height of a simulated title bar: hit-tests there land on the title element.
@@ -61,14 +61,20 @@ public:
     std::map<Pid, std::vector<AXElement>> applicationChildren;
     // Asked first by every hit-test; a scene answers for the points it owns.
     std::function<std::optional<AXElement>(Point)> hitTestOverride;
+    // Called before an application element's attributes are read, so a scene can bring the
+    // elements it derives from the desktop up to date (the Dock's Mission Control tree).
+    std::function<void(Pid)> onApplicationRead;
 
     // Counts of calls, for tests that pin down how much a reader asks.
     std::size_t attributeReads() const;
     std::size_t attributeReads(const std::string& attribute) const;
     void resetCounts();
+    // The time-out a call on the element waits: its own; else its application element's
+    // (elements obtained through an application inherit it); else the one set on the
+    // system-wide element, which is process-wide; else the system's default.
     float messagingTimeout(const AXElement& element) const;
 
-private:
+  private:
     struct Node {
         Pid owner = 0;
         std::map<std::string, AXValue> attributes;

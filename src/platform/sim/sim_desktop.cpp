@@ -22,8 +22,9 @@ SimDesktop::SimDesktop()
       workspace_(*this),
       defaults_(bundle.identifier),
       screenList_(*this),
-      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_, eventTap_,
-                executor_,      clock_,        systemLog_, loginItem_,  windowHost_} {
+      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,  eventTap_,
+                executor_,      clock_,        systemLog_, loginItem_,  windowHost_},
+      dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }
 
@@ -43,7 +44,8 @@ SimApplication* SimDesktop::application(Pid pid) {
 }
 
 void SimDesktop::removeApplication(Pid pid) {
-    for (SimWindowId id : windowsOf(pid)) closeWindow(id);
+    for (SimWindowId id : windowsOf(pid))
+        closeWindow(id);
     std::erase_if(applications_, [pid](const SimApplication& app) { return app.pid == pid; });
 }
 
@@ -95,7 +97,19 @@ std::optional<SimWindowId> SimDesktop::windowAt(Point point) const {
 void SimDesktop::addScreenToTheRight(Size size) {
     const Rect& last = screens_.back().frame;
     const Rect frame{last.maxX(), last.maxY() - size.height, size.width, size.height};
-    screens_.push_back(screenAt(frame, firstDisplayID + static_cast<std::uint32_t>(screens_.size())));
+    screens_.push_back(
+        screenAt(frame, firstDisplayID + static_cast<std::uint32_t>(screens_.size())));
+}
+
+std::vector<Rect> SimDesktop::accessibilityScreenFrames() const {
+    std::vector<Rect> frames;
+    if (screens_.empty()) return frames;
+    const double primaryHeight = screens_.front().frame.height;
+    for (const ScreenDescription& screen : screens_) {
+        const Rect& f = screen.frame;
+        frames.push_back({f.x, primaryHeight - f.maxY(), f.width, f.height});
+    }
+    return frames;
 }
 
 }  // namespace vistrel

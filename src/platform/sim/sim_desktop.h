@@ -10,6 +10,7 @@
 #include "platform/sim/sim_accessibility.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
+#include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
 #include "platform/sim/sim_login_item.h"
@@ -32,7 +33,7 @@ inline constexpr double simDockHeight = 70;
 // virtual time. Every platform interface reads and writes this one model, so a test can
 // act through the core and look at the result here.
 class SimDesktop {
-public:
+  public:
     // An empty desktop with one 1440×900 screen, trusted for Accessibility, as the agent
     // itself ("com.quillmarsh.vistrel").
     SimDesktop();
@@ -51,6 +52,8 @@ public:
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    // The Dock and its Mission Control; not running until launched or opened.
+    SimDock& dock() { return dock_; }
 
     // Applications, in the workspace's order.
     Pid addApplication(SimApplication application);
@@ -75,16 +78,19 @@ public:
     std::optional<std::size_t> mainScreenIndex = 0;
     // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
     void addScreenToTheRight(Size size);
+    // The screens' frames in accessibility coordinates (origin at the primary's top-left).
+    std::vector<Rect> accessibilityScreenFrames() const;
 
     // The agent's own process and bundle.
     Pid ownPid = 100;
-    BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1", "/Applications/Vistrel.app"};
+    BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1",
+                      "/Applications/Vistrel.app"};
 
-    // The Accessibility grant.
+    // The Accessibility grant; revoking it makes every accessibility call fail.
     bool trusted = true;
     int trustPrompts = 0;
 
-private:
+  private:
     SimClock clock_;
     SimExecutor executor_;
     SimAccessibility accessibility_;
@@ -97,6 +103,7 @@ private:
     SimWindowHost windowHost_;
     SimScreenList screenList_;
     Platform platform_;
+    SimDock dock_;
 
     std::vector<SimApplication> applications_;
     std::vector<SimWindow> windows_;
@@ -107,7 +114,7 @@ private:
 
 // Installs a desktop as the platform for the lifetime of this object.
 class ScopedPlatform {
-public:
+  public:
     explicit ScopedPlatform(SimDesktop& desktop) { installPlatform(&desktop.platform()); }
     ~ScopedPlatform() { installPlatform(nullptr); }
     ScopedPlatform(const ScopedPlatform&) = delete;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <vector>
 
 #include "platform/event_tap_port.h"
 
@@ -10,7 +12,7 @@ namespace vistrel {
 // deliver(); the answer says whether the event went on to the system (true) or was
 // swallowed by the tap (false).
 class SimEventTapPort : public EventTapPort {
-public:
+  public:
     bool create(std::uint64_t mask, Handler handler) override;
     bool addToMainRunLoop() override;
     void enable(bool on) override;
@@ -28,14 +30,28 @@ public:
     // The system disables the tap, as it does when a callback is too slow.
     void disableBySystem() { enabled_ = false; }
 
+    // One delivered event and whether it went on to the system.
+    struct Delivery {
+        InputEvent event;
+        bool passed = true;
+    };
+    // Every event delivered so far, in order.
+    const std::vector<Delivery>& deliveries() const { return deliveries_; }
+    // Called with every event that went on to the system, so the desktop can react to it
+    // (a click that reaches Mission Control).
+    std::function<void(const InputEvent&)> onPassed;
+
     bool exists() const { return exists_; }
     bool enabled() const { return enabled_; }
     std::uint64_t mask() const { return mask_; }
     int creations() const { return creations_; }
     int enables() const { return enables_; }
 
-private:
+  private:
+    bool route(const InputEvent& event);
+
     Handler handler_;
+    std::vector<Delivery> deliveries_;
     std::uint64_t mask_ = 0;
     bool exists_ = false;
     bool valid_ = false;
@@ -44,5 +60,17 @@ private:
     int creations_ = 0;
     int enables_ = 0;
 };
+
+// Synthetic events as the system would deliver them.
+namespace SimInput {
+InputEvent mouseMoved(Point location);
+InputEvent mouseDragged(Point location);
+InputEvent mouseDown(Point location, std::uint64_t flags = 0);
+InputEvent mouseUp(Point location);
+InputEvent keyDown(std::int64_t keyCode, std::uint64_t flags, bool autorepeat = false);
+InputEvent keyUp(std::int64_t keyCode, std::uint64_t flags = 0);
+InputEvent flagsChanged(std::uint64_t flags);
+InputEvent tapDisabled(EventType notice);
+}  // namespace SimInput
 
 }  // namespace vistrel

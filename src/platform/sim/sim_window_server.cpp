@@ -32,6 +32,7 @@ std::optional<std::string> SimWindowServer::displayUUID(std::uint32_t displayID)
 
 bool SimWindowServer::postKey(std::uint16_t keyCode, bool down) {
     postedKeys.emplace_back(keyCode, down);
+    desktop_.dock().keyPosted(keyCode, down);
     if (onKey) onKey(keyCode, down);
     return true;
 }

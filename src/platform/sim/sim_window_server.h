@@ -14,7 +14,7 @@ class SimDesktop;
 // The simulated window server: the window list is the desktop's open windows, front to
 // back, behind any extra windows a scene puts in front (the Dock's Mission Control windows).
 class SimWindowServer : public WindowServer {
-public:
+  public:
     explicit SimWindowServer(SimDesktop& desktop) : desktop_(desktop) {}
 
     std::optional<std::vector<WindowDescription>> windowList(std::uint32_t options) override;
@@ -27,11 +27,12 @@ public:
     bool listFails = false;
     // Every key event posted, in order: (key code, down).
     std::vector<std::pair<std::uint16_t, bool>> postedKeys;
-    // Called for every posted key, so a scene can react (Escape leaves Mission Control).
+    // Called for every posted key, after the Dock has seen it (Escape leaves Mission
+    // Control), so a scene can react as well.
     std::function<void(std::uint16_t keyCode, bool down)> onKey;
     int listQueries() const { return listQueries_; }
 
-private:
+  private:
     SimDesktop& desktop_;
     int listQueries_ = 0;
 };

@@ -1,0 +1,309 @@
+#include "platform/sim/sim_dock.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/sim/sim_desktop.h"
+
+namespace vistrel {
+
+namespace {
+
+// Window numbers of the Dock's own windows, far above those of application windows.
+constexpr std::uint32_t barWindowNumber = 0x7000;
+constexpr std::uint32_t firstMissionControlWindowNumber = 0x7100;
+
+Rect rounded(Rect r) {
+    return {std::round(r.x), std::round(r.y), std::round(r.width), std::round(r.height)};
+}
+
+// The windows of each row when rows hold `columns` windows, in order.
+std::vector<std::vector<std::size_t>> rowsOf(std::size_t count, std::size_t columns) {
+    std::vector<std::vector<std::size_t>> rows;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i % columns == 0) rows.emplace_back();
+        rows.back().push_back(i);
+    }
+    return rows;
+}
+
+double rowHeight(const std::vector<Size>& windows, const std::vector<std::size_t>& row) {
+    double height = 0;
+    for (std::size_t i : row)
+        height = std::max(height, windows[i].height);
+    return height;
+}
+
+// The largest common scale at which these rows fit the area with their gaps.
+double fittingScale(const std::vector<Size>& windows,
+                    const std::vector<std::vector<std::size_t>>& rows, Rect area) {
+    double scale = area.height - SimDock::gap * static_cast<double>(rows.size() - 1);
+    double heights = 0;
+    for (const auto& row : rows)
+        heights += rowHeight(windows, row);
+    scale /= std::max(heights, 1.0);
+    for (const auto& row : rows) {
+        double widths = 0;
+        for (std::size_t i : row)
+            widths += windows[i].width;
+        const double room = area.width - SimDock::gap * static_cast<double>(row.size() - 1);
+        scale = std::min(scale, room / std::max(widths, 1.0));
+    }
+    return scale;
+}
+
+std::map<std::string, AXValue> group(std::string_view identifier, std::vector<AXElement> children) {
+    return {{"AXRole", std::string("AXGroup")},
+            {"AXIdentifier", std::string(identifier)},
+            {"AXChildren", std::move(children)}};
+}
+
+}  // namespace
+
+SimDock::SimDock(SimDesktop& desktop) : desktop_(desktop) {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    accessibility.hitTestOverride = [this](Point point) { return hitTest(point); };
+    accessibility.onApplicationRead = [this](Pid pid) {
+        if (pid == pid_) sync();
+    };
+    desktop_.eventTap().onPassed = [this](const InputEvent& event) {
+        if (event.type == EventType::leftMouseUp) clicked(event.location);
+    };
+}
+
+Pid SimDock::launch() {
+    if (isRunning()) return pid_;
+    SimApplication dock;
+    dock.bundleIdentifier = std::string(bundleIdentifier);
+    dock.name = std::string(name);
+    dock.activationPolicy = ActivationPolicy::accessory;
+    pid_ = desktop_.addApplication(std::move(dock));
+    SimAccessibility& accessibility = desktop_.accessibility();
+    barNode_ = accessibility.addNode(pid_, {{"AXRole", std::string("AXList")}});
+    accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_)};
+    publishWindows();
+    return pid_;
+}
+
+void SimDock::quit() {
+    if (!isRunning()) return;
+    close();
+    desktop_.accessibility().removeNode(barNode_);
+    desktop_.accessibility().applicationChildren.erase(pid_);
+    desktop_.removeApplication(pid_);
+    pid_ = 0;
+    publishWindows();
+}
+
+Pid SimDock::restart() {
+    quit();
+    return launch();
+}
+
+void SimDock::open() {
+    launch();
+    open_ = true;
+    rebuild(visibleWindows());
+    publishWindows();
+}
+
+void SimDock::close() {
+    if (!open_) return;
+    open_ = false;
+    removeTree();
+    publishWindows();
+}
+
+const std::vector<SimThumbnail>& SimDock::thumbnails() {
+    sync();
+    return thumbnails_;
+}
+
+std::optional<SimThumbnail> SimDock::thumbnailAt(Point point) {
+    for (const SimThumbnail& thumbnail : thumbnails()) {
+        if (thumbnail.frame.contains(point)) return thumbnail;
+    }
+    return std::nullopt;
+}
+
+void SimDock::keyPosted(std::uint16_t keyCode, bool down) {
+    if (down && keyCode == escapeKeyCode) close();
+}
+
+void SimDock::clicked(Point point) {
+    if (!open_) return;
+    if (auto thumbnail = thumbnailAt(point)) desktop_.bringToFront(thumbnail->window);
+    close();
+}
+
+Rect SimDock::thumbnailArea(Rect screen) {
+    return {screen.minX() + sideMargin, screen.minY() + spacesBarHeight,
+            screen.width - 2 * sideMargin,
+            screen.height - spacesBarHeight - simDockHeight - bottomMargin};
+}
+
+std::vector<Rect> SimDock::layOut(const std::vector<Size>& windows, Rect area) {
+    std::vector<Rect> frames;
+    if (windows.empty()) return frames;
+    std::size_t bestColumns = 1;
+    double bestScale = 0;
+    for (std::size_t columns = 1; columns <= windows.size(); ++columns) {
+        const double scale = fittingScale(windows, rowsOf(windows.size(), columns), area);
+        if (scale > bestScale) {
+            bestScale = scale;
+            bestColumns = columns;
+        }
+    }
+    const double scale = std::min(bestScale, largestScale);
+    const auto rows = rowsOf(windows.size(), bestColumns);
+    double blockHeight = gap * static_cast<double>(rows.size() - 1);
+    for (const auto& row : rows)
+        blockHeight += rowHeight(windows, row) * scale;
+    double top = area.minY() + (area.height - blockHeight) / 2;
+    for (const auto& row : rows) {
+        double rowWidth = gap * static_cast<double>(row.size() - 1);
+        for (std::size_t i : row)
+            rowWidth += windows[i].width * scale;
+        const double height = rowHeight(windows, row) * scale;
+        double left = area.minX() + (area.width - rowWidth) / 2;
+        for (std::size_t i : row) {
+            const Size size{windows[i].width * scale, windows[i].height * scale};
+            frames.push_back(
+                rounded({left, top + (height - size.height) / 2, size.width, size.height}));
+            left += size.width + gap;
+        }
+        top += height + gap;
+    }
+    return frames;
+}
+
+std::vector<SimDock::Shown> SimDock::visibleWindows() const {
+    const std::vector<Rect> screens = desktop_.accessibilityScreenFrames();
+    std::vector<Shown> shown;
+    for (const SimWindow& window : desktop_.windows()) {
+        if (!desktop_.isOnScreen(window) || window.layer != 0 || window.fullScreen) continue;
+        std::size_t screen = 0;
+        for (std::size_t i = 0; i < screens.size(); ++i) {
+            if (screens[i].contains(window.frame.mid())) screen = i;
+        }
+        shown.push_back({window.id, window.frame, screen});
+    }
+    return shown;
+}
+
+void SimDock::sync() {
+    if (!open_) return;
+    const auto shown = visibleWindows();
+    if (shown != laidOutFrom_ || desktop_.accessibilityScreenFrames() != laidOutScreens_) {
+        rebuild(shown);
+    }
+}
+
+void SimDock::rebuild(const std::vector<Shown>& shown) {
+    removeTree();
+    SimAccessibility& accessibility = desktop_.accessibility();
+    laidOutFrom_ = shown;
+    laidOutScreens_ = desktop_.accessibilityScreenFrames();
+    std::vector<AXElement> displays;
+    for (std::size_t screen = 0; screen < laidOutScreens_.size(); ++screen) {
+        const SimNodeId display = makeDisplay(screen, laidOutScreens_[screen], shown);
+        displayNodes_.push_back(display);
+        displays.push_back(accessibility.nodeElement(display));
+    }
+    missionControlNode_ = accessibility.addNode(pid_, group("mc", displays));
+    treeNodes_.push_back(missionControlNode_);
+    accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_),
+                                               accessibility.nodeElement(missionControlNode_)};
+}
+
+SimNodeId SimDock::makeDisplay(std::size_t screen, Rect frame, const std::vector<Shown>& shown) {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    std::vector<Size> sizes;
+    std::vector<SimWindowId> ids;
+    for (const Shown& window : shown) {
+        if (window.screen != screen) continue;
+        sizes.push_back(window.frame.size());
+        ids.push_back(window.window);
+    }
+    const std::vector<Rect> frames = layOut(sizes, thumbnailArea(frame));
+    std::vector<AXElement> thumbnails;
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const SimWindow* window = desktop_.window(ids[i]);
+        const SimNodeId node = accessibility.addNode(pid_, {{"AXRole", std::string("AXButton")},
+                                                            {"AXTitle", window->title},
+                                                            {"AXFrame", frames[i]}});
+        treeNodes_.push_back(node);
+        thumbnails.push_back(accessibility.nodeElement(node));
+        thumbnails_.push_back({ids[i], frames[i]});
+    }
+    const SimNodeId spaces = accessibility.addNode(pid_, group("mc.spaces", {}));
+    const SimNodeId windows = accessibility.addNode(pid_, group("mc.windows", thumbnails));
+    auto display = group("mc.display",
+                         {accessibility.nodeElement(spaces), accessibility.nodeElement(windows)});
+    display["AXFrame"] = frame;
+    const SimNodeId node = accessibility.addNode(pid_, std::move(display));
+    treeNodes_.insert(treeNodes_.end(), {spaces, windows, node});
+    return node;
+}
+
+void SimDock::removeTree() {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    for (SimNodeId node : treeNodes_)
+        accessibility.removeNode(node);
+    treeNodes_.clear();
+    displayNodes_.clear();
+    thumbnails_.clear();
+    laidOutFrom_.clear();
+    laidOutScreens_.clear();
+    missionControlNode_ = 0;
+    if (isRunning()) {
+        accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_)};
+    }
+}
+
+void SimDock::publishWindows() {
+    auto& list = desktop_.windowServer().frontWindows;
+    if (publishedPid_ != 0) {
+        std::erase_if(list,
+                      [this](const WindowDescription& w) { return w.ownerPid == publishedPid_; });
+    }
+    publishedPid_ = pid_;
+    if (!isRunning()) return;
+    const std::vector<Rect> screens = desktop_.accessibilityScreenFrames();
+    std::vector<WindowDescription> own;
+    for (std::size_t i = 0; open_ && i < screens.size(); ++i) {
+        own.push_back({firstMissionControlWindowNumber + static_cast<std::uint32_t>(i), pid_,
+                       std::string(name), std::nullopt, missionControlLayer, screens[i]});
+    }
+    const Rect primary = screens.front();
+    own.push_back(
+        {barWindowNumber, pid_, std::string(name), std::string(name), barLayer,
+         Rect{primary.minX(), primary.maxY() - simDockHeight, primary.width, simDockHeight}});
+    list.insert(list.begin(), own.begin(), own.end());
+}
+
+std::optional<AXElement> SimDock::hitTest(Point point) {
+    if (!open_) return std::nullopt;
+    if (auto thumbnail = thumbnailAt(point)) return windowPartAt(*thumbnail, point);
+    for (std::size_t i = 0; i < laidOutScreens_.size(); ++i) {
+        if (laidOutScreens_[i].contains(point)) {
+            return desktop_.accessibility().nodeElement(displayNodes_[i]);
+        }
+    }
+    return std::nullopt;
+}
+
+// The part of the window a point over its thumbnail stands for: its title in the scaled
+// title bar, the window itself elsewhere.
+AXElement SimDock::windowPartAt(const SimThumbnail& thumbnail, Point point) {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    const SimWindow& window = *desktop_.window(thumbnail.window);
+    const double scale = thumbnail.frame.height / window.frame.height;
+    const double titleBar = SimAccessibility::titleBarHeight * scale;
+    if (point.y < thumbnail.frame.minY() + titleBar) {
+        return accessibility.partElement(window.id, SimWindowPart::title);
+    }
+    return accessibility.windowElement(window.id);
+}
+
+}  // namespace vistrel

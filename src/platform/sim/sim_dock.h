@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/ax_element.h"
+#include "platform/geometry.h"
+#include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_model.h"
+
+namespace vistrel {
+
+class SimDesktop;
+
+// One window thumbnail of Mission Control: the window it shows and where it is drawn.
+struct SimThumbnail {
+    SimWindowId window = 0;
+    Rect frame;  // accessibility coordinates
+
+    friend bool operator==(const SimThumbnail&, const SimThumbnail&) = default;
+};
+
+// The Dock process and its Mission Control, as the agent sees them: a running application
+// "com.apple.dock"; its bar, a window on layer 20; and while Mission Control is open, one
+// window per screen on layer 18 and the accessibility tree
+//   Dock → "mc" → "mc.display" (one per screen) → "mc.spaces", "mc.windows" → thumbnails
+// with one thumbnail per visible window, laid out in rows like Mission Control does.
+// The Dock answers hit-tests over Mission Control (SimAccessibility::hitTestOverride) and
+// keeps its tree in step with the desktop whenever its application element is read
+// (SimAccessibility::onApplicationRead). An empty desktop has no Dock until launch().
+class SimDock {
+  public:
+    static constexpr std::string_view bundleIdentifier = "com.apple.dock";
+    static constexpr std::string_view name = "Dock";
+    static constexpr std::int64_t barLayer = 20;
+    static constexpr std::int64_t missionControlLayer = 18;
+    // The key that leaves Mission Control when posted.
+    static constexpr std::uint16_t escapeKeyCode = 53;
+
+    // How thumbnails are laid out on a screen, in points.
+    static constexpr double spacesBarHeight = 90;
+    static constexpr double sideMargin = 48;
+    static constexpr double bottomMargin = 24;  // above the Dock, which stays visible
+    static constexpr double gap = 32;
+    static constexpr double largestScale = 0.8;
+
+    explicit SimDock(SimDesktop& desktop);
+    SimDock(const SimDock&) = delete;
+    SimDock& operator=(const SimDock&) = delete;
+
+    // Starts the Dock process (nothing happens while it runs); answers its identifier.
+    Pid launch();
+    // Ends the Dock process; Mission Control goes with it.
+    void quit();
+    // Quits and launches again under a new process identifier, as after `killall Dock`.
+    Pid restart();
+    bool isRunning() const { return pid_ != 0; }
+    // The running Dock's process identifier; 0 when it does not run.
+    Pid pid() const { return pid_; }
+
+    // Opens Mission Control on every screen, launching the Dock first if need be.
+    void open();
+    void close();
+    bool isOpen() const { return open_; }
+
+    // The thumbnails shown, in tree order, up to date with the desktop; empty when closed.
+    const std::vector<SimThumbnail>& thumbnails();
+    std::optional<SimThumbnail> thumbnailAt(Point point);
+
+    // What a posted key does: Escape leaves Mission Control.
+    void keyPosted(std::uint16_t keyCode, bool down);
+    // What a click that reached Mission Control does: on a thumbnail it brings that window
+    // to the front and leaves; on empty space it just leaves.
+    void clicked(Point point);
+
+    // Thumbnail frames for windows of these sizes within `area`: scaled alike (never
+    // above largestScale), aspect kept, in rows of as many as give the largest scale, each
+    // row centred and the rows centred as a block. Whole points.
+    static std::vector<Rect> layOut(const std::vector<Size>& windows, Rect area);
+    // The part of a screen (accessibility coordinates) that thumbnails may use.
+    static Rect thumbnailArea(Rect screen);
+
+  private:
+    struct Shown {
+        SimWindowId window;
+        Rect frame;
+        std::size_t screen;
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    std::vector<Shown> visibleWindows() const;
+    void sync();
+    void rebuild(const std::vector<Shown>& shown);
+    void removeTree();
+    SimNodeId makeDisplay(std::size_t screen, Rect frame, const std::vector<Shown>& shown);
+    void publishWindows();
+    std::optional<AXElement> hitTest(Point point);
+    AXElement windowPartAt(const SimThumbnail& thumbnail, Point point);
+
+    SimDesktop& desktop_;
+    Pid pid_ = 0;
+    Pid publishedPid_ = 0;
+    bool open_ = false;
+    SimNodeId barNode_ = 0;
+    SimNodeId missionControlNode_ = 0;
+    std::vector<SimNodeId> treeNodes_;
+    std::vector<SimNodeId> displayNodes_;
+    std::vector<Shown> laidOutFrom_;
+    std::vector<Rect> laidOutScreens_;
+    std::vector<SimThumbnail> thumbnails_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,70 @@
+#include "platform/sim/sim_scene.h"
+
+#include <string>
+#include <vector>
+
+#include "platform/sim/sim_desktop.h"
+
+namespace vistrel {
+
+namespace {
+
+struct SceneWindow {
+    const char* title;
+    Rect frame;
+};
+
+struct SceneApplication {
+    const char* bundleIdentifier;
+    const char* name;
+    const char* path;
+    std::vector<SceneWindow> windows;  // back to front
+};
+
+// Back to front: the last window listed ends up in front of all others.
+const std::vector<SceneApplication>& sceneApplications() {
+    static const std::vector<SceneApplication> applications = {
+        {"com.apple.finder",
+         "Finder",
+         "/System/Library/CoreServices/Finder.app",
+         {{"Applications", {40, 180, 720, 440}}, {"Downloads", {880, 470, 520, 330}}}},
+        {"com.apple.mail",
+         "Mail",
+         "/System/Applications/Mail.app",
+         {{"Inbox – iCloud", {300, 70, 1000, 640}}}},
+        {"com.apple.Terminal",
+         "Terminal",
+         "/System/Applications/Utilities/Terminal.app",
+         {{"vistrel — zsh — 80×24", {110, 430, 585, 368}}}},
+        {"com.apple.Notes",
+         "Notes",
+         "/System/Applications/Notes.app",
+         {{"Notes", {760, 110, 640, 480}}}},
+        {"com.apple.Safari",
+         "Safari",
+         "/Applications/Safari.app",
+         {{"Start Page", {80, 50, 1060, 720}}}},
+    };
+    return applications;
+}
+
+}  // namespace
+
+void populateDefaultScene(SimDesktop& desktop) {
+    desktop.dock().launch();
+    for (const SceneApplication& scene : sceneApplications()) {
+        SimApplication application;
+        application.bundleIdentifier = scene.bundleIdentifier;
+        application.name = scene.name;
+        const Pid pid = desktop.addApplication(std::move(application));
+        desktop.workspace().installed[scene.bundleIdentifier] = scene.path;
+        for (const SceneWindow& window : scene.windows) {
+            SimWindow made;
+            made.title = window.title;
+            made.frame = window.frame;
+            desktop.addWindow(pid, std::move(made));
+        }
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace vistrel {
+
+class SimDesktop;
+
+// The scene vistrel-sim shows and scenario tests start from: the Dock and five everyday
+// applications (Safari, Notes, Terminal, Mail, Finder) with six windows of plausible sizes
+// on one 1440×900 screen, overlapping as on a real desktop. Mission Control is closed.
+void populateDefaultScene(SimDesktop& desktop);
+
+}  // namespace vistrel

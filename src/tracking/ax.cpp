@@ -1,0 +1,110 @@
+#include "tracking/ax.h"
+
+#include <cstdint>
+#include <mutex>
+
+#include "platform/platform.h"
+#include "settings/preference_key.h"
+
+namespace vistrel::AX {
+
+namespace {
+
+Accessibility& accessibility() {
+    return platform().accessibility;
+}
+
+// Reads one attribute; nothing on any error.
+std::optional<AXValue> read(const AXElement& element, std::string_view attribute) {
+    AXValue value;
+    if (accessibility().copyAttribute(element, attribute, value) != AXError::success) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+template <typename T>
+std::optional<T> readAs(const AXElement& element, std::string_view attribute) {
+    auto value = read(element, attribute);
+    if (!value) return std::nullopt;
+    if (const T* typed = std::get_if<T>(&*value)) return *typed;
+    return std::nullopt;
+}
+
+bool has(const AXElement& window, std::string_view attribute) {
+    return element(window, attribute).has_value();
+}
+
+bool canMaximize(const AXElement& window, std::string_view maximizeMode) {
+    if (maximizeMode == MaximizeMode::fill) return isSettable(window, size);
+    return has(window, fullScreenButton) || isSettable(window, fullScreen);
+}
+
+}  // namespace
+
+AXElement systemWide() {
+    // Made once per installed platform (tests install a fresh desktop each time); the
+    // lock makes the first use safe from any thread.
+    static std::mutex mutex;
+    static AXElement made;
+    static std::uint64_t madeFor = 0;
+    std::lock_guard lock(mutex);
+    if (!made || madeFor != platformGeneration()) {
+        made = accessibility().systemWide();
+        accessibility().setMessagingTimeout(made, systemWideTimeout);
+        madeFor = platformGeneration();
+    }
+    return made;
+}
+
+std::optional<std::string> string(const AXElement& element, std::string_view attribute) {
+    return readAs<std::string>(element, attribute);
+}
+
+std::optional<AXElement> element(const AXElement& element, std::string_view attribute) {
+    auto found = readAs<AXElement>(element, attribute);
+    if (found && !*found) return std::nullopt;
+    return found;
+}
+
+std::vector<AXElement> elements(const AXElement& element, std::string_view attribute) {
+    return readAs<std::vector<AXElement>>(element, attribute).value_or(std::vector<AXElement>{});
+}
+
+std::optional<Rect> frame(const AXElement& element) {
+    return readAs<Rect>(element, frameAttribute);
+}
+
+bool isSettable(const AXElement& element, std::string_view attribute) {
+    bool settable = false;
+    return accessibility().isSettable(element, attribute, settable) == AXError::success && settable;
+}
+
+std::optional<WindowHit> windowAt(Point point) {
+    AXElement hit;
+    if (accessibility().elementAtPosition(systemWide(), point, hit) != AXError::success || !hit) {
+        return std::nullopt;
+    }
+    std::optional<AXElement> window = hit;
+    if (string(hit, role) != windowRole) window = element(hit, windowAttribute);
+    if (!window) return std::nullopt;
+    Pid pid = 0;
+    if (accessibility().pid(*window, pid) != AXError::success) return std::nullopt;
+    return WindowHit{*window, pid};
+}
+
+std::set<OverlayButton> availableButtons(const AXElement& window, std::string_view maximizeMode) {
+    std::set<OverlayButton> buttons;
+    if (has(window, closeButton)) buttons.insert(OverlayButton::close);
+    if (has(window, minimizeButton) || isSettable(window, minimized)) {
+        buttons.insert(OverlayButton::minimize);
+    }
+    if (canMaximize(window, maximizeMode)) buttons.insert(OverlayButton::maximize);
+    return buttons;
+}
+
+void openSettingsPane() {
+    platform().workspace.openURL(std::string(settingsPaneURL));
+}
+
+}  // namespace vistrel::AX

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/ax_element.h"
+#include "platform/geometry.h"
+#include "platform/process.h"
+#include "views/overlay_button.h"
+
+namespace vistrel {
+
+// Typed readers over the accessibility interface, and the two questions asked about a
+// window: which window lies under a point, and which overlay buttons it supports. Every
+// reader answers with a value of the expected type or with nothing; no error escapes.
+// Stateless apart from the system-wide element, so callable from any thread.
+namespace AX {
+
+// Hit-tests start from the system-wide element; a hung application then costs at most
+// this long instead of the system's default of several seconds.
+inline constexpr float systemWideTimeout = 0.2f;
+
+// Attribute names.
+inline constexpr std::string_view role = "AXRole";
+inline constexpr std::string_view windowRole = "AXWindow";
+inline constexpr std::string_view windowAttribute = "AXWindow";
+inline constexpr std::string_view frameAttribute = "AXFrame";
+inline constexpr std::string_view closeButton = "AXCloseButton";
+inline constexpr std::string_view minimizeButton = "AXMinimizeButton";
+inline constexpr std::string_view fullScreenButton = "AXFullScreenButton";
+inline constexpr std::string_view minimized = "AXMinimized";
+inline constexpr std::string_view fullScreen = "AXFullScreen";
+inline constexpr std::string_view size = "AXSize";
+
+// Where the Accessibility list of the Privacy & Security settings opens.
+inline constexpr std::string_view settingsPaneURL =
+    "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
+
+// The window found under a point and the process that owns it.
+struct WindowHit {
+    AXElement window;
+    Pid pid = 0;
+};
+
+// The system-wide element, made once per installed platform with its short time-out.
+AXElement systemWide();
+
+std::optional<std::string> string(const AXElement& element, std::string_view attribute);
+std::optional<AXElement> element(const AXElement& element, std::string_view attribute);
+std::vector<AXElement> elements(const AXElement& element, std::string_view attribute);
+// "AXFrame" as a rectangle; nothing when it holds any other kind of value.
+std::optional<Rect> frame(const AXElement& element);
+// Whether the attribute can be written; a failing query counts as "no".
+bool isSettable(const AXElement& element, std::string_view attribute);
+
+// The window under a point (the hit element itself, or the window it belongs to).
+std::optional<WindowHit> windowAt(Point point);
+
+// The overlay buttons that can act on the window under the "maximizeMode" setting.
+std::set<OverlayButton> availableButtons(const AXElement& window, std::string_view maximizeMode);
+
+// Opens the Accessibility list of the system settings.
+void openSettingsPane();
+
+}  // namespace AX
+
+}  // namespace vistrel

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <set>
+
+#include "platform/event_tap_port.h"
+#include "tracking/event_tap_delegate.h"
+
+namespace vistrel {
+
+// One mask bit per event type; types of 64 and more (the two disable notices) cannot
+// enter a mask.
+template <std::size_t count>
+constexpr std::uint64_t eventMaskOf(const std::array<EventType, count>& types) {
+    std::uint64_t mask = 0;
+    for (EventType type : types) {
+        const auto bit = static_cast<std::uint32_t>(type);
+        if (bit < 64) mask |= std::uint64_t{1} << bit;
+    }
+    return mask;
+}
+
+// An active event tap at the head of the HID event stream, running while Mission Control
+// is open. It hands each pointer and key event to its delegate and swallows those the
+// delegate consumes together with their releases, so that Mission Control never sees a
+// release whose press it did not see.
+class EventTap {
+  public:
+    // The event types that reach the tap, in mask order.
+    static constexpr std::array<EventType, 7> tappedTypes = {
+        EventType::leftMouseDown,    EventType::leftMouseUp, EventType::mouseMoved,
+        EventType::leftMouseDragged, EventType::keyDown,     EventType::keyUp,
+        EventType::flagsChanged};
+    static const std::uint64_t eventMask;
+
+    EventTap() = default;
+    ~EventTap();
+    EventTap(const EventTap&) = delete;
+    EventTap& operator=(const EventTap&) = delete;
+
+    // Held weakly: once the delegate is gone every event passes unchanged.
+    std::weak_ptr<EventTapDelegate> delegate;
+
+    // True when the tap runs, also when it already ran.
+    bool start();
+    // Removes the tap and forgets pending swallows.
+    void stop();
+    // The tap has a port and the system still considers it valid.
+    bool isRunning() const;
+
+    // The tap callback: true passes the event on, false swallows it.
+    bool handle(const InputEvent& event);
+
+  private:
+    bool handleMouseDown(EventTapDelegate* target, const InputEvent& event);
+    bool handleMouseUp(EventTapDelegate* target, const InputEvent& event);
+    bool handleKeyDown(EventTapDelegate* target, const InputEvent& event);
+
+    // The port the tap was made on; set while the tap runs.
+    EventTapPort* port_ = nullptr;
+    std::set<std::int64_t> swallowedKeys_;
+    bool swallowMouseUp_ = false;
+};
+
+inline constexpr std::uint64_t EventTap::eventMask = eventMaskOf(EventTap::tappedTypes);
+
+}  // namespace vistrel

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/executor.h"
+
+namespace vistrel {
+
+// Tells whether Mission Control is open by polling the on-screen window list, since macOS
+// announces nothing. A chain of one-shot timers on the main thread reports the answer on
+// every poll: fast while Mission Control is open, slowly while it is closed, more slowly
+// still without the Accessibility grant, so that an idle agent costs almost nothing.
+class MissionControlDetector {
+  public:
+    // The owner name of the Dock's windows, and the name of its application-icon window.
+    static constexpr std::string_view dock = "Dock";
+    static constexpr std::string_view appIcon = "appicon";
+    // The window layer of the Dock's Mission Control windows.
+    static constexpr std::int64_t missionControlLayer = 18;
+
+    // Seconds to the next poll, by what the last poll saw.
+    static constexpr double openInterval = 0.066;
+    static constexpr double closedInterval = 0.5;
+    static constexpr double untrustedInterval = 1.0;
+    static constexpr double untrustedOnboardedInterval = 5.0;
+    // The delay before the first poll when the engine starts the chain.
+    static constexpr double startDelay = 0.05;
+    // Every timer may fire this fraction of its interval late, so wake-ups coalesce.
+    static constexpr double toleranceFraction = 0.1;
+
+    MissionControlDetector() = default;
+    MissionControlDetector(const MissionControlDetector&) = delete;
+    MissionControlDetector& operator=(const MissionControlDetector&) = delete;
+
+    // One look at the window list: a Dock window on the Mission Control layer, or the
+    // Dock's "appicon" window on any layer.
+    static bool isMissionControlOpen();
+    // The pacing table.
+    static double nextInterval(bool trusted, bool open, bool onboardingCompleted);
+
+    // Called on the main thread after every poll with whether Mission Control is open,
+    // changed or not: telling openings from closings is the listener's job.
+    std::function<void(bool open)> onTick;
+
+    // Arms the next poll `interval` seconds from now, replacing the pending one.
+    void schedule(double interval);
+
+  private:
+    void tick();
+
+    // The timer's closure holds this token weakly instead of the detector: once the
+    // detector is gone the token is too, so a late firing finds nothing and the chain ends.
+    // A token (rather than shared_from_this) lets the owner keep the detector by value.
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
+    std::unique_ptr<Timer> timer_;
+};
+
+}  // namespace vistrel
