@@ -95,8 +95,14 @@ std::vector<fs::path> FileLog::files() const {
     return existing;
 }
 
-const fs::path& FileLog::directory() const { return writer_->directory; }
-const fs::path& FileLog::current() const { return writer_->current; }
-const fs::path& FileLog::previous() const { return writer_->previous; }
+const fs::path& FileLog::directory() const {
+    return writer_->directory;
+}
+const fs::path& FileLog::current() const {
+    return writer_->current;
+}
+const fs::path& FileLog::previous() const {
+    return writer_->previous;
+}
 
 }  // namespace vistrel

@@ -16,7 +16,7 @@ namespace vistrel {
 // Callers on any thread only format a timestamp and hand the line to one serial queue;
 // every file operation happens there. A line that cannot be written is lost silently.
 class FileLog {
-public:
+  public:
     static constexpr std::uintmax_t defaultMaxBytes = 1'000'000;
     static constexpr std::string_view queueLabel = "com.quillmarsh.filelog";
 
@@ -37,7 +37,7 @@ public:
     const std::filesystem::path& current() const;
     const std::filesystem::path& previous() const;
 
-private:
+  private:
     struct Writer;
     std::shared_ptr<Writer> writer_;
     std::shared_ptr<SerialQueue> queue_;

@@ -56,10 +56,16 @@ void write(LogLevel level, std::string_view word, std::string_view message) {
 
 }  // namespace
 
-void Log::info(std::string_view message) { write(LogLevel::info, infoWord, message); }
+void Log::info(std::string_view message) {
+    write(LogLevel::info, infoWord, message);
+}
 
-void Log::error(std::string_view message) { write(LogLevel::error, errorWord, message); }
+void Log::error(std::string_view message) {
+    write(LogLevel::error, errorWord, message);
+}
 
-FileLog& Log::file() { return *current().log; }
+FileLog& Log::file() {
+    return *current().log;
+}
 
 }  // namespace vistrel

@@ -12,7 +12,7 @@ namespace vistrel {
 // Every call may be made from any thread. Calls on an element give up after that element's
 // messaging time-out and answer AXError::cannotComplete.
 class Accessibility {
-public:
+  public:
     virtual ~Accessibility() = default;
 
     // AXUIElementCreateSystemWide.

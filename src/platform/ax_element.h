@@ -9,7 +9,7 @@ namespace vistrel {
 // What an accessibility element handle holds: on macOS a retained AXUIElementRef,
 // compared with CFEqual and hashed with CFHash; in the simulator a node of its tree.
 class AXElementHandle {
-public:
+  public:
     virtual ~AXElementHandle() = default;
     virtual bool equals(const AXElementHandle& other) const = 0;
     virtual std::size_t hash() const = 0;
@@ -19,9 +19,10 @@ public:
 // handle; two references are equal when they name the same element, even if they were
 // obtained separately. A default-made reference names nothing.
 class AXElement {
-public:
+  public:
     AXElement() = default;
-    explicit AXElement(std::shared_ptr<const AXElementHandle> handle) : handle_(std::move(handle)) {}
+    explicit AXElement(std::shared_ptr<const AXElementHandle> handle)
+        : handle_(std::move(handle)) {}
 
     explicit operator bool() const { return handle_ != nullptr; }
     const AXElementHandle* handle() const { return handle_.get(); }
@@ -32,7 +33,7 @@ public:
         return a.handle_->equals(*b.handle_);
     }
 
-private:
+  private:
     std::shared_ptr<const AXElementHandle> handle_;
 };
 

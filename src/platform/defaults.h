@@ -9,7 +9,7 @@ namespace vistrel {
 
 // One user-defaults domain (NSUserDefaults). Safe to use from any thread.
 class DefaultsStore {
-public:
+  public:
     virtual ~DefaultsStore() = default;
     // object(forKey:): nothing when the key is missing.
     virtual DefaultsValue object(const std::string& key) = 0;
@@ -21,7 +21,7 @@ public:
 
 // Where defaults stores come from.
 class Defaults {
-public:
+  public:
     virtual ~Defaults() = default;
     // NSUserDefaults.standard: the domain of the main bundle's identifier.
     virtual std::shared_ptr<DefaultsStore> standard() = 0;

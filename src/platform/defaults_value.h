@@ -13,7 +13,7 @@ namespace vistrel {
 // floating-point number, text, data, an array or a dictionary. Integers and doubles are
 // kept apart, as NSNumber keeps them apart on the way in; readers decide what they accept.
 class DefaultsValue {
-public:
+  public:
     using Data = std::vector<std::uint8_t>;
     using Array = std::vector<DefaultsValue>;
     using Dictionary = std::map<std::string, DefaultsValue>;
@@ -45,7 +45,7 @@ public:
 
     friend bool operator==(const DefaultsValue&, const DefaultsValue&) = default;
 
-private:
+  private:
     template <typename T>
     std::optional<T> get() const {
         if (const T* v = std::get_if<T>(&value_)) return *v;

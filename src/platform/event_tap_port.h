@@ -24,17 +24,17 @@ enum class EventType : std::uint32_t {
 // What the tap callback reads of one CGEvent.
 struct InputEvent {
     EventType type = EventType::mouseMoved;
-    Point location;                // CGEventGetLocation: accessibility coordinates
-    std::uint64_t flags = 0;       // CGEventGetFlags
-    std::int64_t keyCode = 0;      // kCGKeyboardEventKeycode (field 9)
-    bool autorepeat = false;       // kCGKeyboardEventAutorepeat (field 8) is non-zero
+    Point location;            // CGEventGetLocation: accessibility coordinates
+    std::uint64_t flags = 0;   // CGEventGetFlags
+    std::int64_t keyCode = 0;  // kCGKeyboardEventKeycode (field 9)
+    bool autorepeat = false;   // kCGKeyboardEventAutorepeat (field 8) is non-zero
 };
 
 // The system's side of one event tap (CGEventTapCreate and companions). The port delivers
 // events on the main thread to the handler, which answers whether the event passes on
 // (true) or is swallowed (false).
 class EventTapPort {
-public:
+  public:
     virtual ~EventTapPort() = default;
     using Handler = std::function<bool(const InputEvent&)>;
 

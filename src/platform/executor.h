@@ -13,7 +13,7 @@ enum class QualityOfService { userInteractive, userInitiated, utility, backgroun
 
 // A serial queue: tasks run one at a time, in the order they were handed over.
 class SerialQueue {
-public:
+  public:
     virtual ~SerialQueue() = default;
     // dispatch_async.
     virtual void async(Task task) = 0;
@@ -27,14 +27,14 @@ public:
 // A one-shot timer on the main run loop (NSTimer in the common modes). Freeing it, or
 // calling invalidate(), cancels it if it has not fired yet.
 class Timer {
-public:
+  public:
     virtual ~Timer() = default;
     virtual void invalidate() = 0;
 };
 
 // Grand Central Dispatch and run-loop timers.
 class Executor {
-public:
+  public:
     virtual ~Executor() = default;
     // The main queue: every piece of user-interface and engine state lives on it.
     virtual SerialQueue& main() = 0;
@@ -48,7 +48,7 @@ public:
 
 // Wall-clock time in seconds since 1970-01-01 UTC.
 class Clock {
-public:
+  public:
     virtual ~Clock() = default;
     virtual double now() = 0;
     // Blocks the calling (background) thread; never called on the main thread.

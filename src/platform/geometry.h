@@ -28,7 +28,9 @@ struct Rect {
     double width = 0;
     double height = 0;
 
-    static Rect of(Point origin, Size size) { return {origin.x, origin.y, size.width, size.height}; }
+    static Rect of(Point origin, Size size) {
+        return {origin.x, origin.y, size.width, size.height};
+    }
 
     Point origin() const { return {x, y}; }
     Size size() const { return {width, height}; }

@@ -10,7 +10,7 @@ enum class LoginItemStatus { notRegistered, enabled, requiresApproval, notFound 
 
 // SMAppService.mainApp: the agent itself as a login item.
 class LoginItem {
-public:
+  public:
     virtual ~LoginItem() = default;
     virtual LoginItemStatus status() = 0;
     // register() and unregister(): nothing on success, else the error's localized description.

@@ -25,6 +25,8 @@ void installPlatform(Platform* platform) {
     generation.fetch_add(1);
 }
 
-std::uint64_t platformGeneration() { return generation.load(); }
+std::uint64_t platformGeneration() {
+    return generation.load();
+}
 
 }  // namespace vistrel

@@ -12,9 +12,9 @@ namespace vistrel {
 // bottom-left of the primary display, y growing upwards). The core flips them into
 // accessibility coordinates.
 struct ScreenDescription {
-    Rect frame;                                 // NSScreen.frame
-    Rect visibleFrame;                          // NSScreen.visibleFrame (menu bar and Dock excluded)
-    std::optional<std::uint32_t> displayID;     // deviceDescription["NSScreenNumber"]
+    Rect frame;                              // NSScreen.frame
+    Rect visibleFrame;                       // NSScreen.visibleFrame (menu bar and Dock excluded)
+    std::optional<std::uint32_t> displayID;  // deviceDescription["NSScreenNumber"]
     double backingScaleFactor = 2;
 
     friend bool operator==(const ScreenDescription&, const ScreenDescription&) = default;
@@ -22,7 +22,7 @@ struct ScreenDescription {
 
 // NSScreen.screens and NSScreen.main. Read on the main thread.
 class ScreenList {
-public:
+  public:
     virtual ~ScreenList() = default;
     // NSScreen.screens: the primary display first.
     virtual std::vector<ScreenDescription> screens() = 0;

@@ -13,23 +13,23 @@ namespace vistrel {
 // One entry of CGWindowListCopyWindowInfo. Every key may be missing from a description,
 // so every field is optional.
 struct WindowDescription {
-    std::optional<std::uint32_t> number;    // kCGWindowNumber
-    std::optional<Pid> ownerPid;            // kCGWindowOwnerPID
-    std::optional<std::string> ownerName;   // kCGWindowOwnerName
-    std::optional<std::string> name;        // kCGWindowName
-    std::optional<std::int64_t> layer;      // kCGWindowLayer
-    std::optional<Rect> bounds;             // kCGWindowBounds, accessibility coordinates
+    std::optional<std::uint32_t> number;   // kCGWindowNumber
+    std::optional<Pid> ownerPid;           // kCGWindowOwnerPID
+    std::optional<std::string> ownerName;  // kCGWindowOwnerName
+    std::optional<std::string> name;       // kCGWindowName
+    std::optional<std::int64_t> layer;     // kCGWindowLayer
+    std::optional<Rect> bounds;            // kCGWindowBounds, accessibility coordinates
 };
 
 // Options of the on-screen window list query.
 namespace WindowListOption {
-inline constexpr std::uint32_t onScreenOnly = 1;            // kCGWindowListOptionOnScreenOnly
+inline constexpr std::uint32_t onScreenOnly = 1;             // kCGWindowListOptionOnScreenOnly
 inline constexpr std::uint32_t excludeDesktopElements = 16;  // kCGWindowListExcludeDesktopElements
 }  // namespace WindowListOption
 
 // The window server: Quartz window list, displays and synthetic keyboard events.
 class WindowServer {
-public:
+  public:
     virtual ~WindowServer() = default;
 
     // CGWindowListCopyWindowInfo(options, kCGNullWindowID): front to back. Nothing when

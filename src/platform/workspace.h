@@ -34,15 +34,15 @@ struct OpenConfiguration {
 
 // The main bundle of the running process.
 struct BundleInfo {
-    std::optional<std::string> identifier;    // CFBundleIdentifier
-    std::string version;                      // CFBundleShortVersionString
-    std::string build;                        // CFBundleVersion
-    std::string path;                         // the bundle's folder
+    std::optional<std::string> identifier;  // CFBundleIdentifier
+    std::string version;                    // CFBundleShortVersionString
+    std::string build;                      // CFBundleVersion
+    std::string path;                       // the bundle's folder
 };
 
 // NSWorkspace and NSRunningApplication.
 class Workspace {
-public:
+  public:
     virtual ~Workspace() = default;
     using OpenCompletion = std::function<void(bool ok, const std::string& error)>;
 

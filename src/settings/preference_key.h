@@ -25,7 +25,8 @@ inline constexpr std::string_view layoutsDebugShelf = "layouts.debug.shelf";
 
 inline constexpr std::string_view agentAccessibilityTrusted = "agent.accessibilityTrusted";
 inline constexpr std::string_view agentLaunchAtLogin = "agent.launchAtLogin";
-inline constexpr std::string_view agentLaunchAtLoginNeedsApproval = "agent.launchAtLoginNeedsApproval";
+inline constexpr std::string_view agentLaunchAtLoginNeedsApproval =
+    "agent.launchAtLoginNeedsApproval";
 }  // namespace PreferenceKey
 
 // Values of "maximizeMode".

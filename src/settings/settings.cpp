@@ -15,7 +15,9 @@ constexpr std::string_view sizeSmall = "small";
 constexpr std::string_view sizeLarge = "large";
 constexpr std::string_view launchAtLoginFailed = "launch at login change failed: ";
 
-std::string key(std::string_view k) { return std::string(k); }
+std::string key(std::string_view k) {
+    return std::string(k);
+}
 
 }  // namespace
 
@@ -37,7 +39,9 @@ bool Settings::flag(std::string_view k, bool fallback) const {
 }
 
 // The store's plain Boolean getter: a missing key, or one of another type, reads false.
-bool Settings::plainFlag(std::string_view k) const { return flag(k, false); }
+bool Settings::plainFlag(std::string_view k) const {
+    return flag(k, false);
+}
 
 std::vector<OverlayButton> Settings::enabledButtons() const {
     std::vector<OverlayButton> buttons{OverlayButton::close};
@@ -53,14 +57,30 @@ double Settings::buttonSize() const {
     return ButtonSize::medium;
 }
 
-bool Settings::showMinimize() const { return flag(PreferenceKey::showMinimizeButton, false); }
-bool Settings::showMaximize() const { return flag(PreferenceKey::showMaximizeButton, false); }
-bool Settings::layoutsEnabled() const { return flag(PreferenceKey::layoutsEnabled, true); }
-bool Settings::layoutsShelf() const { return flag(PreferenceKey::layoutsShelf, true); }
-bool Settings::layoutsLaunchApps() const { return flag(PreferenceKey::layoutsLaunchApps, true); }
-bool Settings::layoutsDebugGeometry() const { return plainFlag(PreferenceKey::layoutsDebugGeometry); }
-bool Settings::menuBarIconHidden() const { return plainFlag(PreferenceKey::menuBarIconHidden); }
-bool Settings::onboardingCompleted() const { return plainFlag(PreferenceKey::onboardingCompleted); }
+bool Settings::showMinimize() const {
+    return flag(PreferenceKey::showMinimizeButton, false);
+}
+bool Settings::showMaximize() const {
+    return flag(PreferenceKey::showMaximizeButton, false);
+}
+bool Settings::layoutsEnabled() const {
+    return flag(PreferenceKey::layoutsEnabled, true);
+}
+bool Settings::layoutsShelf() const {
+    return flag(PreferenceKey::layoutsShelf, true);
+}
+bool Settings::layoutsLaunchApps() const {
+    return flag(PreferenceKey::layoutsLaunchApps, true);
+}
+bool Settings::layoutsDebugGeometry() const {
+    return plainFlag(PreferenceKey::layoutsDebugGeometry);
+}
+bool Settings::menuBarIconHidden() const {
+    return plainFlag(PreferenceKey::menuBarIconHidden);
+}
+bool Settings::onboardingCompleted() const {
+    return plainFlag(PreferenceKey::onboardingCompleted);
+}
 
 bool Settings::hotkeyDisabled(Hotkey hotkey) const {
     return plainFlag(Shared::Key::hotkeyDisabled(hotkey));

@@ -24,7 +24,7 @@ inline constexpr double large = 32;
 // in the Settings app takes effect at once. A value of the wrong type reads as its default.
 // Main thread only.
 class Settings {
-public:
+  public:
     // Layout gaps are clamped to this range, in points.
     static constexpr double maxLayoutsGap = 40;
     // The login item's status is polled at most this often by publishTrustIfChanged().
@@ -64,7 +64,7 @@ public:
 
     DefaultsStore& store() { return *d_; }
 
-private:
+  private:
     bool flag(std::string_view key, bool fallback) const;
     bool plainFlag(std::string_view key) const;
     void publish(std::string_view key, bool value);

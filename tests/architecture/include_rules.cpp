@@ -12,10 +12,14 @@ namespace fs = std::filesystem;
 namespace {
 
 // Frameworks only the macOS layer may include.
-constexpr std::array appleFrameworks = {
-    "AppKit",  "ApplicationServices", "Carbon",     "Cocoa",   "CoreFoundation",
-    "CoreGraphics", "CoreServices",   "CoreText",   "Foundation", "IOKit",
-    "objc",    "os",                  "QuartzCore", "ServiceManagement", "Sparkle"};
+constexpr std::array appleFrameworks = {"AppKit",         "ApplicationServices",
+                                        "Carbon",         "Cocoa",
+                                        "CoreFoundation", "CoreGraphics",
+                                        "CoreServices",   "CoreText",
+                                        "Foundation",     "IOKit",
+                                        "objc",           "os",
+                                        "QuartzCore",     "ServiceManagement",
+                                        "Sparkle"};
 
 bool isAppleHeader(const std::string& header) {
     const auto slash = header.find('/');

@@ -21,7 +21,8 @@ TEST(IncludeRules, CoreFilesIncludeNoPlatformImplementationAndNoAppleHeader) {
 }
 
 TEST(IncludeRules, FlagsAnIncludeOfTheSimulatedDesktop) {
-    EXPECT_EQ(coreIncludeViolations("a.cpp", "#include \"platform/sim/sim_desktop.h\"\n").size(), 1u);
+    EXPECT_EQ(coreIncludeViolations("a.cpp", "#include \"platform/sim/sim_desktop.h\"\n").size(),
+              1u);
 }
 
 TEST(IncludeRules, FlagsAnIncludeOfTheMacLayer) {
@@ -29,9 +30,10 @@ TEST(IncludeRules, FlagsAnIncludeOfTheMacLayer) {
 }
 
 TEST(IncludeRules, FlagsAppleFrameworkHeadersIncludedOrImported) {
-    const auto violations = coreIncludeViolations(
-        "a.h", "#include <CoreGraphics/CoreGraphics.h>\n#import <AppKit/AppKit.h>\n"
-               "#include <os/log.h>\n");
+    const auto violations =
+        coreIncludeViolations("a.h",
+                              "#include <CoreGraphics/CoreGraphics.h>\n#import <AppKit/AppKit.h>\n"
+                              "#include <os/log.h>\n");
     ASSERT_EQ(violations.size(), 3u);
     EXPECT_EQ(violations[1].line, 2);
 }

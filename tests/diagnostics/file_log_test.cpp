@@ -16,15 +16,15 @@ namespace vistrel {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::TempDir;
 using testing::readFile;
+using testing::TempDir;
 
 // 2026-11-15T03:19:02.123Z
 constexpr double sampleTime = 1'794'712'742.123;
 constexpr std::size_t stampLength = 24;  // "2026-11-15T03:19:02.123Z"
 
 class FileLogTest : public ::testing::Test {
-protected:
+  protected:
     FileLog makeLog(std::uintmax_t maxBytes = FileLog::defaultMaxBytes) {
         return FileLog("Vistrel", home.path(), desktop.executor(), desktop.clock(), maxBytes);
     }
@@ -133,7 +133,8 @@ TEST_F(FileLogTest, EightThreadsReachTheFileWholeOnceEachAndInEachThreadsOrder) 
             }
         });
     }
-    for (auto& writer : writers) writer.join();
+    for (auto& writer : writers)
+        writer.join();
     log.flush();
 
     std::istringstream file(readFile(log.current()));
@@ -150,7 +151,8 @@ TEST_F(FileLogTest, EightThreadsReachTheFileWholeOnceEachAndInEachThreadsOrder) 
         ++total;
     }
     EXPECT_EQ(total, threads * linesPerThread);
-    for (int t = 0; t < threads; ++t) EXPECT_EQ(nextLine[t], linesPerThread);
+    for (int t = 0; t < threads; ++t)
+        EXPECT_EQ(nextLine[t], linesPerThread);
 }
 
 TEST_F(FileLogTest, UncreatableFolderLosesTheLinesWithoutFailing) {

@@ -13,12 +13,12 @@ namespace vistrel {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::TempDir;
 using testing::readFile;
+using testing::TempDir;
 
 // Points HOME at a folder of the test's own for the test's lifetime.
 class LogTest : public ::testing::Test {
-protected:
+  protected:
     LogTest() : savedHome_(std::getenv("HOME")) { setenv("HOME", home.path().c_str(), 1); }
     ~LogTest() override { setenv("HOME", savedHome_.c_str(), 1); }
 

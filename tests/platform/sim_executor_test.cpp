@@ -10,7 +10,7 @@ namespace vistrel {
 namespace {
 
 class SimExecutorTest : public ::testing::Test {
-protected:
+  protected:
     SimClock clock;
     SimExecutor executor{clock};
     std::vector<std::string> ran;
@@ -25,7 +25,8 @@ TEST_F(SimExecutorTest, QueuedWorkRunsOnlyWhenTheTestDrivesIt) {
 
 TEST_F(SimExecutorTest, SerialQueueRunsTasksInOrderOneAtATime) {
     auto queue = executor.makeQueue("test.queue", QualityOfService::utility);
-    for (int i = 0; i < 3; ++i) queue->async([this, i] { ran.push_back(std::to_string(i)); });
+    for (int i = 0; i < 3; ++i)
+        queue->async([this, i] { ran.push_back(std::to_string(i)); });
     auto sim = executor.queue("test.queue");
     ASSERT_NE(sim, nullptr);
     EXPECT_TRUE(sim->runOne());
@@ -81,7 +82,8 @@ TEST_F(SimExecutorTest, SleepingOnABackgroundQueueAdvancesVirtualTimeAtOnce) {
 TEST_F(SimExecutorTest, WorkHandedOverFromAnotherThreadIsKept) {
     auto queue = executor.makeQueue("test.threads", QualityOfService::utility);
     std::thread writer([&] {
-        for (int i = 0; i < 1000; ++i) queue->async([] {});
+        for (int i = 0; i < 1000; ++i)
+            queue->async([] {});
     });
     writer.join();
     EXPECT_EQ(executor.runUntilIdle(), 1000u);

@@ -13,7 +13,7 @@ namespace {
 using testing::SimTest;
 
 class SettingsTest : public SimTest {
-protected:
+  protected:
     SimDefaultsStore& domain() { return *desktop.defaults().domain("com.quillmarsh.vistrel"); }
     void store(std::string_view key, const DefaultsValue& value) {
         domain().set(std::string(key), value);
@@ -36,7 +36,8 @@ TEST_F(SettingsTest, WithNoKeysSetEverythingReadsItsDefault) {
     EXPECT_FALSE(settings().onboardingCompleted());
     EXPECT_FALSE(settings().layoutsDebugGeometry());
     EXPECT_FALSE(settings().buttonTheme().has_value());
-    for (Hotkey hotkey : allHotkeys) EXPECT_FALSE(settings().hotkeyDisabled(hotkey));
+    for (Hotkey hotkey : allHotkeys)
+        EXPECT_FALSE(settings().hotkeyDisabled(hotkey));
 }
 
 TEST_F(SettingsTest, EnabledButtonsKeepCloseFirstThenMinimizeThenMaximize) {
@@ -95,7 +96,8 @@ TEST_F(SettingsTest, EveryTypedAccessorReadsItsDefaultWhenTheValueHasTheWrongTyp
           PreferenceKey::layoutsDebugGeometry}) {
         store(key, wrong);
     }
-    for (Hotkey hotkey : allHotkeys) domain().set(Shared::Key::hotkeyDisabled(hotkey), "yes");
+    for (Hotkey hotkey : allHotkeys)
+        domain().set(Shared::Key::hotkeyDisabled(hotkey), "yes");
 
     EXPECT_FALSE(settings().showMinimize());
     EXPECT_FALSE(settings().showMaximize());
@@ -109,7 +111,8 @@ TEST_F(SettingsTest, EveryTypedAccessorReadsItsDefaultWhenTheValueHasTheWrongTyp
     EXPECT_TRUE(settings().layoutsLaunchApps());
     EXPECT_EQ(settings().layoutsGap(), 0);
     EXPECT_FALSE(settings().layoutsDebugGeometry());
-    for (Hotkey hotkey : allHotkeys) EXPECT_FALSE(settings().hotkeyDisabled(hotkey));
+    for (Hotkey hotkey : allHotkeys)
+        EXPECT_FALSE(settings().hotkeyDisabled(hotkey));
 }
 
 TEST_F(SettingsTest, MaximizeModeFillsOnlyForTheExactWordFill) {
@@ -212,7 +215,8 @@ TEST_F(SettingsTest, FailedLaunchAtLoginChangeIsLoggedAndTheRealStateIsPublished
     desktop.loginItem().failure = "Operation not permitted";
     desktop.loginItem().setStatus(LoginItemStatus::requiresApproval);
     settings().setLaunchAtLogin(true);
-    EXPECT_EQ(desktop.systemLog().count("launch at login change failed: Operation not permitted"), 1u);
+    EXPECT_EQ(desktop.systemLog().count("launch at login change failed: Operation not permitted"),
+              1u);
     EXPECT_EQ(desktop.loginItem().settingsOpened(), 1);
     EXPECT_EQ(stored(PreferenceKey::agentLaunchAtLoginNeedsApproval).boolean(), true);
 }

@@ -8,7 +8,7 @@ namespace vistrel::testing {
 
 // A test on a fresh simulated desktop, installed as the platform for the test's lifetime.
 class SimTest : public ::testing::Test {
-protected:
+  protected:
     SimDesktop desktop;
     ScopedPlatform installed{desktop};
 };

@@ -30,7 +30,9 @@ bool registerSimCommand(SimCommand command) {
     return true;
 }
 
-const std::vector<SimCommand>& simCommands() { return registry(); }
+const std::vector<SimCommand>& simCommands() {
+    return registry();
+}
 
 }  // namespace vistrel
 

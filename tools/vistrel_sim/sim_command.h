@@ -33,6 +33,6 @@ const std::vector<SimCommand>& simCommands();
 #define VISTREL_SIM_COMMAND_CONCAT_(a, b) a##b
 #define VISTREL_SIM_COMMAND_NAME_(line) VISTREL_SIM_COMMAND_CONCAT_(simCommandRegistered, line)
 // Registers a command when the program starts.
-#define VISTREL_SIM_COMMAND(...) \
+#define VISTREL_SIM_COMMAND(...)                                             \
     [[maybe_unused]] static const bool VISTREL_SIM_COMMAND_NAME_(__LINE__) = \
         ::vistrel::registerSimCommand(::vistrel::SimCommand{__VA_ARGS__})

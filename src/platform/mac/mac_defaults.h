@@ -6,7 +6,7 @@ namespace vistrel {
 
 // NSUserDefaults: the standard defaults and named suites.
 class MacDefaults : public Defaults {
-public:
+  public:
     std::shared_ptr<DefaultsStore> standard() override;
     std::shared_ptr<DefaultsStore> suite(const std::string& name) override;
 };

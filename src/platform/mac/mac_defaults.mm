@@ -30,7 +30,8 @@ DefaultsValue toValue(id object) {
     }
     if ([object isKindOfClass:[NSArray class]]) {
         DefaultsValue::Array array;
-        for (id element in (NSArray*)object) array.push_back(toValue(element));
+        for (id element in (NSArray*)object)
+            array.push_back(toValue(element));
         return DefaultsValue(std::move(array));
     }
     if ([object isKindOfClass:[NSDictionary class]]) {
@@ -70,10 +71,12 @@ id toObject(const DefaultsValue& value) {
     return nil;
 }
 
-NSString* ns(const std::string& text) { return [NSString stringWithUTF8String:text.c_str()]; }
+NSString* ns(const std::string& text) {
+    return [NSString stringWithUTF8String:text.c_str()];
+}
 
 class MacDefaultsStore : public DefaultsStore {
-public:
+  public:
     explicit MacDefaultsStore(NSUserDefaults* defaults) : defaults_(defaults) {}
     DefaultsValue object(const std::string& key) override {
         return toValue([defaults_ objectForKey:ns(key)]);
@@ -83,7 +86,7 @@ public:
     }
     void remove(const std::string& key) override { [defaults_ removeObjectForKey:ns(key)]; }
 
-private:
+  private:
     NSUserDefaults* defaults_;
 };
 

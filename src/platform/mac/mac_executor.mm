@@ -14,16 +14,20 @@ constexpr double nanosecondsPerSecond = 1e9;
 
 dispatch_qos_class_t qosClass(QualityOfService quality) {
     switch (quality) {
-        case QualityOfService::userInteractive: return QOS_CLASS_USER_INTERACTIVE;
-        case QualityOfService::userInitiated: return QOS_CLASS_USER_INITIATED;
-        case QualityOfService::utility: return QOS_CLASS_UTILITY;
-        case QualityOfService::background: return QOS_CLASS_BACKGROUND;
+        case QualityOfService::userInteractive:
+            return QOS_CLASS_USER_INTERACTIVE;
+        case QualityOfService::userInitiated:
+            return QOS_CLASS_USER_INITIATED;
+        case QualityOfService::utility:
+            return QOS_CLASS_UTILITY;
+        case QualityOfService::background:
+            return QOS_CLASS_BACKGROUND;
     }
     return QOS_CLASS_DEFAULT;
 }
 
 class DispatchQueue : public SerialQueue {
-public:
+  public:
     DispatchQueue(dispatch_queue_t queue, std::string label)
         : queue_(queue), label_(std::move(label)) {}
 
@@ -45,18 +49,18 @@ public:
     }
     const std::string& label() const override { return label_; }
 
-private:
+  private:
     dispatch_queue_t queue_;
     std::string label_;
 };
 
 class RunLoopTimer : public Timer {
-public:
+  public:
     explicit RunLoopTimer(NSTimer* timer) : timer_(timer) {}
     ~RunLoopTimer() override { invalidate(); }
     void invalidate() override { [timer_ invalidate]; }
 
-private:
+  private:
     NSTimer* timer_;
 };
 
@@ -83,7 +87,9 @@ std::unique_ptr<Timer> MacExecutor::oneShot(double interval, double tolerance, T
     return std::make_unique<RunLoopTimer>(timer);
 }
 
-double MacClock::now() { return [[NSDate date] timeIntervalSince1970]; }
+double MacClock::now() {
+    return [[NSDate date] timeIntervalSince1970];
+}
 
 void MacClock::sleep(double seconds) {
     std::this_thread::sleep_for(std::chrono::duration<double>(seconds));

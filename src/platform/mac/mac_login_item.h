@@ -6,7 +6,7 @@ namespace vistrel {
 
 // SMAppService.mainAppService.
 class MacLoginItem : public LoginItem {
-public:
+  public:
     LoginItemStatus status() override;
     std::optional<std::string> registerItem() override;
     std::optional<std::string> unregisterItem() override;

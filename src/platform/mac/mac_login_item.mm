@@ -15,10 +15,14 @@ std::optional<std::string> failure(BOOL ok, NSError* error) {
 
 LoginItemStatus MacLoginItem::status() {
     switch (SMAppService.mainAppService.status) {
-        case SMAppServiceStatusNotRegistered: return LoginItemStatus::notRegistered;
-        case SMAppServiceStatusEnabled: return LoginItemStatus::enabled;
-        case SMAppServiceStatusRequiresApproval: return LoginItemStatus::requiresApproval;
-        case SMAppServiceStatusNotFound: return LoginItemStatus::notFound;
+        case SMAppServiceStatusNotRegistered:
+            return LoginItemStatus::notRegistered;
+        case SMAppServiceStatusEnabled:
+            return LoginItemStatus::enabled;
+        case SMAppServiceStatusRequiresApproval:
+            return LoginItemStatus::requiresApproval;
+        case SMAppServiceStatusNotFound:
+            return LoginItemStatus::notFound;
     }
     return LoginItemStatus::notFound;
 }
@@ -35,6 +39,8 @@ std::optional<std::string> MacLoginItem::unregisterItem() {
     return failure(ok, error);
 }
 
-void MacLoginItem::openSystemSettingsLoginItems() { [SMAppService openSystemSettingsLoginItems]; }
+void MacLoginItem::openSystemSettingsLoginItems() {
+    [SMAppService openSystemSettingsLoginItems];
+}
 
 }  // namespace vistrel

@@ -7,7 +7,7 @@ namespace vistrel {
 
 // NSWorkspace, NSRunningApplication and the main bundle.
 class MacWorkspace : public Workspace {
-public:
+  public:
     std::vector<RunningApplication> runningApplications() override;
     std::optional<RunningApplication> application(Pid pid) override;
     bool hide(Pid pid) override;
@@ -25,7 +25,7 @@ public:
 
 // NSScreen.
 class MacScreenList : public ScreenList {
-public:
+  public:
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
 };

@@ -11,28 +11,35 @@ std::optional<std::string> text(NSString* value) {
     return std::string(value.UTF8String);
 }
 
-NSString* ns(const std::string& value) { return [NSString stringWithUTF8String:value.c_str()]; }
+NSString* ns(const std::string& value) {
+    return [NSString stringWithUTF8String:value.c_str()];
+}
 
 ActivationPolicy policyOf(NSApplicationActivationPolicy policy) {
     switch (policy) {
-        case NSApplicationActivationPolicyRegular: return ActivationPolicy::regular;
-        case NSApplicationActivationPolicyAccessory: return ActivationPolicy::accessory;
-        case NSApplicationActivationPolicyProhibited: return ActivationPolicy::prohibited;
+        case NSApplicationActivationPolicyRegular:
+            return ActivationPolicy::regular;
+        case NSApplicationActivationPolicyAccessory:
+            return ActivationPolicy::accessory;
+        case NSApplicationActivationPolicyProhibited:
+            return ActivationPolicy::prohibited;
     }
     return ActivationPolicy::prohibited;
 }
 
 RunningApplication describe(NSRunningApplication* app) {
-    return {app.processIdentifier, text(app.bundleIdentifier), text(app.localizedName),
-            policyOf(app.activationPolicy), static_cast<bool>(app.hidden),
-            static_cast<bool>(app.terminated)};
+    return {app.processIdentifier,         text(app.bundleIdentifier),
+            text(app.localizedName),       policyOf(app.activationPolicy),
+            static_cast<bool>(app.hidden), static_cast<bool>(app.terminated)};
 }
 
 NSRunningApplication* running(Pid pid) {
     return [NSRunningApplication runningApplicationWithProcessIdentifier:pid];
 }
 
-Rect rect(NSRect r) { return {r.origin.x, r.origin.y, r.size.width, r.size.height}; }
+Rect rect(NSRect r) {
+    return {r.origin.x, r.origin.y, r.size.width, r.size.height};
+}
 
 }  // namespace
 
@@ -50,11 +57,21 @@ std::optional<RunningApplication> MacWorkspace::application(Pid pid) {
     return describe(app);
 }
 
-bool MacWorkspace::hide(Pid pid) { return [running(pid) hide]; }
-bool MacWorkspace::unhide(Pid pid) { return [running(pid) unhide]; }
-bool MacWorkspace::activate(Pid pid) { return [running(pid) activateWithOptions:0]; }
-bool MacWorkspace::terminate(Pid pid) { return [running(pid) terminate]; }
-bool MacWorkspace::forceTerminate(Pid pid) { return [running(pid) forceTerminate]; }
+bool MacWorkspace::hide(Pid pid) {
+    return [running(pid) hide];
+}
+bool MacWorkspace::unhide(Pid pid) {
+    return [running(pid) unhide];
+}
+bool MacWorkspace::activate(Pid pid) {
+    return [running(pid) activateWithOptions:0];
+}
+bool MacWorkspace::terminate(Pid pid) {
+    return [running(pid) terminate];
+}
+bool MacWorkspace::forceTerminate(Pid pid) {
+    return [running(pid) forceTerminate];
+}
 
 std::optional<std::string> MacWorkspace::applicationURL(const std::string& bundleIdentifier) {
     NSURL* url =
@@ -69,18 +86,19 @@ void MacWorkspace::openApplication(const std::string& url, const OpenConfigurati
     open.hides = configuration.hides;
     open.createsNewApplicationInstance = configuration.createsNewApplicationInstance;
     NSMutableArray<NSString*>* arguments = [NSMutableArray array];
-    for (const std::string& argument : configuration.arguments) [arguments addObject:ns(argument)];
+    for (const std::string& argument : configuration.arguments)
+        [arguments addObject:ns(argument)];
     open.arguments = arguments;
-    [NSWorkspace.sharedWorkspace
-        openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
-               configuration:open
-           completionHandler:^(NSRunningApplication* app, NSError* error) {
-             const bool ok = app != nil && error == nil;
-             const std::string reason = error != nil ? error.localizedDescription.UTF8String : "";
-             dispatch_async(dispatch_get_main_queue(), ^{
-               completion(ok, reason);
-             });
-           }];
+    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
+                                        configuration:open
+                                    completionHandler:^(NSRunningApplication* app, NSError* error) {
+                                      const bool ok = app != nil && error == nil;
+                                      const std::string reason =
+                                          error != nil ? error.localizedDescription.UTF8String : "";
+                                      dispatch_async(dispatch_get_main_queue(), ^{
+                                        completion(ok, reason);
+                                      });
+                                    }];
 }
 
 bool MacWorkspace::openURL(const std::string& url) {
@@ -88,7 +106,9 @@ bool MacWorkspace::openURL(const std::string& url) {
     return target != nil && [NSWorkspace.sharedWorkspace openURL:target];
 }
 
-Pid MacWorkspace::ownPid() { return NSProcessInfo.processInfo.processIdentifier; }
+Pid MacWorkspace::ownPid() {
+    return NSProcessInfo.processInfo.processIdentifier;
+}
 
 BundleInfo MacWorkspace::mainBundle() {
     NSBundle* bundle = NSBundle.mainBundle;
@@ -103,8 +123,8 @@ std::vector<ScreenDescription> MacScreenList::screens() {
         NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
         std::optional<std::uint32_t> displayID;
         if ([number isKindOfClass:[NSNumber class]]) displayID = number.unsignedIntValue;
-        result.push_back({rect(screen.frame), rect(screen.visibleFrame), displayID,
-                          screen.backingScaleFactor});
+        result.push_back(
+            {rect(screen.frame), rect(screen.visibleFrame), displayID, screen.backingScaleFactor});
     }
     return result;
 }

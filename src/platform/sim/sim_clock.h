@@ -9,7 +9,7 @@ namespace vistrel {
 // Virtual time. It moves only when the simulation advances it: a background task that
 // sleeps moves it forward at once instead of waiting.
 class SimClock : public Clock {
-public:
+  public:
     // 2026-11-15T03:19:02Z: a fixed start, so log lines and pictures are reproducible.
     static constexpr double defaultStart = 1'794'712'742.0;
 
@@ -23,7 +23,7 @@ public:
         if (time > now_.load()) now_.store(time);
     }
 
-private:
+  private:
     std::atomic<double> now_{defaultStart};
 };
 

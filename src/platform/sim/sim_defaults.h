@@ -11,14 +11,14 @@ namespace vistrel {
 
 // One in-memory defaults domain, shared by every process of the simulation that opens it.
 class SimDefaultsStore : public DefaultsStore {
-public:
+  public:
     DefaultsValue object(const std::string& key) override;
     void set(const std::string& key, const DefaultsValue& value) override;
     void remove(const std::string& key) override;
     // How many times a key was written, so tests can tell an unchanged value was left alone.
     int writes(const std::string& key) const;
 
-private:
+  private:
     mutable std::mutex mutex_;
     std::map<std::string, DefaultsValue> values_;
     std::map<std::string, int> writes_;
@@ -27,7 +27,7 @@ private:
 // The simulated user-defaults system: domains by name, the standard one being the domain
 // of the current process's bundle identifier.
 class SimDefaults : public Defaults {
-public:
+  public:
     explicit SimDefaults(const std::optional<std::string>& bundleIdentifier)
         : bundleIdentifier_(bundleIdentifier) {}
 
@@ -39,7 +39,7 @@ public:
     // When set, suites cannot be made (NSUserDefaults(suiteName:) answers nil).
     bool suitesFail = false;
 
-private:
+  private:
     const std::optional<std::string>& bundleIdentifier_;
     std::mutex mutex_;
     std::map<std::string, std::shared_ptr<SimDefaultsStore>> domains_;

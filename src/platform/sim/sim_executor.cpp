@@ -6,12 +6,12 @@ namespace {
 
 // A timer of the simulation: cancelling removes its firing from the timeline.
 class SimTimer : public Timer {
-public:
+  public:
     SimTimer(SimExecutor& executor, std::uint64_t token) : executor_(executor), token_(token) {}
     ~SimTimer() override { invalidate(); }
     void invalidate() override { executor_.cancel(token_); }
 
-private:
+  private:
     SimExecutor& executor_;
     std::uint64_t token_;
 };
@@ -51,7 +51,8 @@ bool SimQueue::runOne() {
 
 std::size_t SimQueue::drain() {
     std::size_t count = 0;
-    while (runOne()) ++count;
+    while (runOne())
+        ++count;
     return count;
 }
 
@@ -119,7 +120,8 @@ std::size_t SimExecutor::runUntilIdle() {
     std::size_t total = 0;
     for (;;) {
         std::size_t ran = 0;
-        for (const auto& queue : liveQueues()) ran += queue->drain();
+        for (const auto& queue : liveQueues())
+            ran += queue->drain();
         if (ran == 0) return total;
         total += ran;
     }

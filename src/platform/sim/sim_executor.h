@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <deque>
 #include <map>
-#include <optional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,7 +19,7 @@ class SimExecutor;
 // A serial queue of the simulation. Handing work over is thread-safe; the work runs only
 // when the test (or vistrel-sim) drives the executor, one task at a time, on its thread.
 class SimQueue : public SerialQueue, public std::enable_shared_from_this<SimQueue> {
-public:
+  public:
     SimQueue(SimExecutor& executor, std::string label, QualityOfService quality);
 
     void async(Task task) override;
@@ -35,7 +35,7 @@ public:
     std::size_t drain();
     std::size_t pending() const;
 
-private:
+  private:
     SimExecutor& executor_;
     std::string label_;
     QualityOfService quality_;
@@ -53,7 +53,7 @@ struct SimTimerRecord {
 // Deterministic Grand Central Dispatch: the main queue and serial queues run step by step
 // under the test's control, and delayed work and timers fire in virtual time.
 class SimExecutor : public Executor {
-public:
+  public:
     explicit SimExecutor(SimClock& clock);
     ~SimExecutor() override;
 
@@ -85,7 +85,7 @@ public:
     std::uint64_t schedule(double due, std::weak_ptr<SimQueue> queue, Task task);
     void cancel(std::uint64_t token);
 
-private:
+  private:
     struct Scheduled {
         std::weak_ptr<SimQueue> queue;
         Task task;

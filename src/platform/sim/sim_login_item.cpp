@@ -9,7 +9,8 @@ LoginItemStatus SimLoginItem::status() {
 
 std::optional<std::string> SimLoginItem::registerItem() {
     if (failure) return failure;
-    status_ = registrationNeedsApproval ? LoginItemStatus::requiresApproval : LoginItemStatus::enabled;
+    status_ =
+        registrationNeedsApproval ? LoginItemStatus::requiresApproval : LoginItemStatus::enabled;
     return std::nullopt;
 }
 

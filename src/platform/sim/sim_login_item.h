@@ -9,7 +9,7 @@ namespace vistrel {
 
 // The agent's login item as the simulated system keeps it.
 class SimLoginItem : public LoginItem {
-public:
+  public:
     LoginItemStatus status() override;
     std::optional<std::string> registerItem() override;
     std::optional<std::string> unregisterItem() override;
@@ -23,7 +23,7 @@ public:
     int settingsOpened() const { return settingsOpened_; }
     int statusReads() const { return statusReads_; }
 
-private:
+  private:
     LoginItemStatus status_ = LoginItemStatus::notRegistered;
     int settingsOpened_ = 0;
     int statusReads_ = 0;

@@ -15,9 +15,9 @@ using SimWindowId = std::uint64_t;
 
 // How a simulated window answers a request to minimize.
 enum class MinimizeBehavior {
-    obeys,                          // "AXMinimized" and the button both work
-    refusesAttributeObeysButton,    // writing "AXMinimized" fails; pressing the button works
-    never,                          // nothing minimizes it
+    obeys,                        // "AXMinimized" and the button both work
+    refusesAttributeObeysButton,  // writing "AXMinimized" fails; pressing the button works
+    never,                        // nothing minimizes it
 };
 
 // One window of a simulated application, with everything the accessibility interface

@@ -19,14 +19,16 @@ std::vector<std::string> SimSystemLog::messages() const {
     std::lock_guard lock(mutex_);
     std::vector<std::string> messages;
     messages.reserve(lines_.size());
-    for (const auto& line : lines_) messages.push_back(line.message);
+    for (const auto& line : lines_)
+        messages.push_back(line.message);
     return messages;
 }
 
 std::size_t SimSystemLog::count(std::string_view message) const {
     std::lock_guard lock(mutex_);
-    return static_cast<std::size_t>(std::count_if(
-        lines_.begin(), lines_.end(), [&](const SimLogLine& line) { return line.message == message; }));
+    return static_cast<std::size_t>(
+        std::count_if(lines_.begin(), lines_.end(),
+                      [&](const SimLogLine& line) { return line.message == message; }));
 }
 
 void SimSystemLog::clear() {

@@ -18,7 +18,7 @@ struct SimLogLine {
 
 // The unified log of the simulation: it keeps every line, in order.
 class SimSystemLog : public SystemLog {
-public:
+  public:
     void write(std::string_view subsystem, std::string_view category, LogLevel level,
                std::string_view message) override;
 
@@ -29,7 +29,7 @@ public:
     std::size_t count(std::string_view message) const;
     void clear();
 
-private:
+  private:
     mutable std::mutex mutex_;
     std::vector<SimLogLine> lines_;
 };

@@ -7,9 +7,12 @@ namespace vistrel {
 namespace {
 
 RunningApplication describe(const SimApplication& app) {
-    return {app.pid, app.bundleIdentifier.empty() ? std::nullopt : std::optional(app.bundleIdentifier),
-            app.name.empty() ? std::nullopt : std::optional(app.name), app.activationPolicy,
-            app.hidden, app.terminated};
+    return {app.pid,
+            app.bundleIdentifier.empty() ? std::nullopt : std::optional(app.bundleIdentifier),
+            app.name.empty() ? std::nullopt : std::optional(app.name),
+            app.activationPolicy,
+            app.hidden,
+            app.terminated};
 }
 
 }  // namespace
@@ -50,13 +53,16 @@ bool SimWorkspace::activate(Pid pid) {
     return true;
 }
 
-bool SimWorkspace::terminate(Pid pid) { return forceTerminate(pid); }
+bool SimWorkspace::terminate(Pid pid) {
+    return forceTerminate(pid);
+}
 
 bool SimWorkspace::forceTerminate(Pid pid) {
     SimApplication* app = desktop_.application(pid);
     if (app == nullptr || app->terminated) return false;
     app->terminated = true;
-    for (SimWindowId id : desktop_.windowsOf(pid)) desktop_.closeWindow(id);
+    for (SimWindowId id : desktop_.windowsOf(pid))
+        desktop_.closeWindow(id);
     return true;
 }
 
@@ -72,8 +78,9 @@ void SimWorkspace::openApplication(const std::string& url, const OpenConfigurati
         launcher(url, configuration, std::move(completion));
         return;
     }
-    desktop_.executor().main().async(
-        [completion = std::move(completion)] { completion(false, "The application cannot be opened."); });
+    desktop_.executor().main().async([completion = std::move(completion)] {
+        completion(false, "The application cannot be opened.");
+    });
 }
 
 bool SimWorkspace::openURL(const std::string& url) {
@@ -82,11 +89,17 @@ bool SimWorkspace::openURL(const std::string& url) {
     return true;
 }
 
-Pid SimWorkspace::ownPid() { return desktop_.ownPid; }
+Pid SimWorkspace::ownPid() {
+    return desktop_.ownPid;
+}
 
-BundleInfo SimWorkspace::mainBundle() { return desktop_.bundle; }
+BundleInfo SimWorkspace::mainBundle() {
+    return desktop_.bundle;
+}
 
-std::vector<ScreenDescription> SimScreenList::screens() { return desktop_.screens(); }
+std::vector<ScreenDescription> SimScreenList::screens() {
+    return desktop_.screens();
+}
 
 std::optional<std::size_t> SimScreenList::mainScreenIndex() {
     if (desktop_.mainScreenIndex && *desktop_.mainScreenIndex < desktop_.screens().size()) {

@@ -14,7 +14,7 @@ class SimDesktop;
 
 // NSWorkspace over the simulated applications.
 class SimWorkspace : public Workspace {
-public:
+  public:
     explicit SimWorkspace(SimDesktop& desktop) : desktop_(desktop) {}
 
     std::vector<RunningApplication> runningApplications() override;
@@ -38,18 +38,18 @@ public:
     std::vector<std::string> openedURLs;
     std::vector<Pid> activations;
 
-private:
+  private:
     SimDesktop& desktop_;
 };
 
 // NSScreen over the simulated screens.
 class SimScreenList : public ScreenList {
-public:
+  public:
     explicit SimScreenList(SimDesktop& desktop) : desktop_(desktop) {}
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
 
-private:
+  private:
     SimDesktop& desktop_;
 };
 
