@@ -1,0 +1,167 @@
+#include "windows/window_mover.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "platform/platform.h"
+#include "tracking/ax.h"
+#include "windows/lazy_queue.h"
+#include "windows/window_attribute.h"
+
+namespace vistrel {
+
+namespace {
+
+using OpenWindow = WindowMover::OpenWindow;
+using ZOrderEntry = WindowMover::ZOrderEntry;
+
+constexpr std::size_t unranked = std::numeric_limits<std::size_t>::max();
+
+LazyQueue& layoutsQueue() {
+    static LazyQueue queue(std::string(WindowMover::queueLabel), QualityOfService::userInitiated);
+    return queue;
+}
+
+bool isRegularAndShown(const RunningApplication& app, Pid ownPid) {
+    return app.activationPolicy == ActivationPolicy::regular && !app.hidden && app.pid != ownPid;
+}
+
+bool isListable(const Rect& frame) {
+    return frame.width >= WindowMover::minimumWidth && frame.height >= WindowMover::minimumHeight;
+}
+
+// The index of the first window-server entry that is this window; height is not compared,
+// as the window server and the application may disagree about it.
+std::size_t rank(const OpenWindow& window, const std::vector<ZOrderEntry>& order) {
+    const auto near = [](double a, double b) {
+        return std::abs(a - b) < WindowMover::rankTolerance;
+    };
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const ZOrderEntry& entry = order[i];
+        if (entry.pid == window.ref.pid && near(entry.bounds.minX(), window.frame.minX()) &&
+            near(entry.bounds.minY(), window.frame.minY()) &&
+            near(entry.bounds.width, window.frame.width)) {
+            return i;
+        }
+    }
+    return unranked;
+}
+
+std::optional<OpenWindow> describe(const AXElement& window, const RunningApplication& app,
+                                   bool includeMinimized) {
+    if (AX::string(window, WindowAttribute::subrole) != WindowAttribute::standardWindow) {
+        return std::nullopt;
+    }
+    const auto frame = WindowMover::frame(window);
+    if (!frame || !isListable(*frame)) return std::nullopt;
+    const bool minimized =
+        WindowAttribute::read<bool>(window, WindowAttribute::minimized).value_or(false);
+    if (minimized && !includeMinimized) return std::nullopt;
+    return OpenWindow{{window, app.pid},
+                      app.bundleIdentifier.value_or(std::string()),
+                      app.localizedName.value_or(std::string()),
+                      AX::string(window, WindowAttribute::title).value_or(std::string()),
+                      *frame,
+                      minimized};
+}
+
+bool isFinite(const Rect& rect) {
+    return std::isfinite(rect.x) && std::isfinite(rect.y) && std::isfinite(rect.width) &&
+           std::isfinite(rect.height);
+}
+
+}  // namespace
+
+std::shared_ptr<SerialQueue> WindowMover::queue() {
+    return layoutsQueue().get();
+}
+
+std::vector<OpenWindow> WindowMover::visibleWindows() {
+    Workspace& workspace = platform().workspace;
+    const Pid ownPid = workspace.ownPid();
+    std::vector<OpenWindow> found;
+    for (const RunningApplication& app : workspace.runningApplications()) {
+        if (!isRegularAndShown(app, ownPid)) continue;
+        std::vector<OpenWindow> more = windows(app, false);
+        found.insert(found.end(), std::make_move_iterator(more.begin()),
+                     std::make_move_iterator(more.end()));
+    }
+    const std::vector<ZOrderEntry> order = zOrder();
+    std::vector<std::pair<std::size_t, OpenWindow>> ranked;
+    for (OpenWindow& window : found) {
+        const std::size_t r = rank(window, order);
+        ranked.emplace_back(r, std::move(window));
+    }
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::vector<OpenWindow> sorted;
+    for (auto& [r, window] : ranked)
+        sorted.push_back(std::move(window));
+    return sorted;
+}
+
+std::vector<OpenWindow> WindowMover::windows(const RunningApplication& app, bool includeMinimized) {
+    if (!app.bundleIdentifier) return {};
+    const AXElement element = platform().accessibility.application(app.pid);
+    WindowAttribute::setTimeout(element, enumerationTimeout);
+    std::vector<OpenWindow> found;
+    for (const AXElement& window : AX::elements(element, WindowAttribute::windows)) {
+        if (auto described = describe(window, app, includeMinimized)) {
+            found.push_back(std::move(*described));
+        }
+    }
+    return found;
+}
+
+std::vector<ZOrderEntry> WindowMover::zOrder() {
+    constexpr std::uint32_t options =
+        WindowListOption::onScreenOnly | WindowListOption::excludeDesktopElements;
+    constexpr std::int64_t normalLayer = 0;
+    std::vector<ZOrderEntry> order;
+    const auto list = platform().windowServer.windowList(options);
+    if (!list) return order;
+    for (const WindowDescription& entry : *list) {
+        if (entry.layer != normalLayer || !entry.ownerPid || !entry.bounds) continue;
+        order.push_back({*entry.ownerPid, *entry.bounds});
+    }
+    return order;
+}
+
+std::optional<Rect> WindowMover::frame(const AXElement& window) {
+    if (auto frame = AX::frame(window)) return frame;
+    const auto origin = WindowAttribute::read<Point>(window, WindowAttribute::position);
+    if (!origin) return std::nullopt;
+    const auto size = WindowAttribute::read<Size>(window, WindowAttribute::size);
+    if (!size) return std::nullopt;
+    return Rect::of(*origin, *size);
+}
+
+bool WindowMover::setFrame(Pid pid, const AXElement& window, Rect frame) {
+    WindowAttribute::setTimeout(window, WindowAttribute::actionTimeout);
+    const AXElement app = platform().accessibility.application(pid);
+    WindowAttribute::setTimeout(app, WindowAttribute::actionTimeout);
+    const bool enhanced =
+        WindowAttribute::read<bool>(app, WindowAttribute::enhancedUserInterface).value_or(false);
+    if (enhanced) WindowAttribute::write(app, WindowAttribute::enhancedUserInterface, false);
+    const bool sized = writeFrame(window, frame);
+    if (enhanced) WindowAttribute::write(app, WindowAttribute::enhancedUserInterface, true);
+    return sized;
+}
+
+bool WindowMover::writeFrame(const AXElement& window, Rect frame) {
+    if (!isFinite(frame)) return false;
+    WindowAttribute::write(window, WindowAttribute::position, frame.origin());
+    const bool sized = WindowAttribute::write(window, WindowAttribute::size, frame.size());
+    WindowAttribute::write(window, WindowAttribute::position, frame.origin());
+    return sized;
+}
+
+bool WindowMover::isFullScreen(const AXElement& window) {
+    return WindowAttribute::read<bool>(window, WindowAttribute::fullScreen).value_or(false);
+}
+
+}  // namespace vistrel
