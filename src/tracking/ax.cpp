@@ -85,8 +85,15 @@ std::optional<WindowHit> windowAt(Point point) {
     if (accessibility().elementAtPosition(systemWide(), point, hit) != AXError::success || !hit) {
         return std::nullopt;
     }
+    AXValue hitRole;
+    const AXError roleRead = accessibility().copyAttribute(hit, role, hitRole);
+    // A process that did not answer in time will not answer the next question either:
+    // give up now rather than wait a second time-out.
+    if (roleRead == AXError::cannotComplete) return std::nullopt;
+    const auto* roleText = std::get_if<std::string>(&hitRole);
+    const bool isWindow = roleRead == AXError::success && roleText && *roleText == windowRole;
     std::optional<AXElement> window = hit;
-    if (string(hit, role) != windowRole) window = element(hit, windowAttribute);
+    if (!isWindow) window = element(hit, windowAttribute);
     if (!window) return std::nullopt;
     Pid pid = 0;
     if (accessibility().pid(*window, pid) != AXError::success) return std::nullopt;
