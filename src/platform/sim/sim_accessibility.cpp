@@ -143,6 +143,11 @@ void SimAccessibility::count(std::string_view attribute) {
     }
 }
 
+std::size_t SimAccessibility::timeoutsSet() const {
+    std::lock_guard lock(mutex_);
+    return timeoutsSet_;
+}
+
 float SimAccessibility::messagingTimeout(const AXElement& element) const {
     std::lock_guard lock(mutex_);
     const SimHandle* handle = handleOf(element);
@@ -160,6 +165,7 @@ AXError SimAccessibility::setMessagingTimeout(const AXElement& element, float se
     if (!element || seconds < 0) return AXError::illegalArgument;
     std::lock_guard lock(mutex_);
     timeouts_[element] = seconds;
+    ++timeoutsSet_;
     return AXError::success;
 }
 

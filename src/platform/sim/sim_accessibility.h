@@ -69,6 +69,8 @@ class SimAccessibility : public Accessibility {
     std::size_t attributeReads() const;
     std::size_t attributeReads(const std::string& attribute) const;
     void resetCounts();
+    // How many messaging time-outs were set, on any element.
+    std::size_t timeoutsSet() const;
     // The time-out a call on the element waits: its own; else its application element's
     // (elements obtained through an application inherit it); else the one set on the
     // system-wide element, which is process-wide; else the system's default.
@@ -97,6 +99,7 @@ class SimAccessibility : public Accessibility {
     std::map<SimNodeId, Node> nodes_;
     SimNodeId nextNode_ = 1;
     std::map<std::string, std::size_t, std::less<>> reads_;
+    std::size_t timeoutsSet_ = 0;
 };
 
 }  // namespace vistrel
