@@ -10,8 +10,18 @@ namespace {
 
 std::string repeated(std::string_view piece, int times) {
     std::string text;
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         text += piece;
+    }
+    return text;
+}
+
+// "[", then `element` the given number of times, then `last` and "]".
+std::string listOf(std::string_view element, int times, std::string_view last) {
+    std::string text = "[";
+    text += repeated(element, times);
+    text += last;
+    text += ']';
     return text;
 }
 
@@ -34,7 +44,7 @@ std::vector<std::string> unreadableInputs() {
         R"([{"created":Infinity,"windows":[]}])",
         "[{\"name\":\"tab\there\",\"windows\":[]}]",
         R"([{"windows":[{"app":"A","bundleID":"b","title":"","rect":{"h":1,"w":1,"x":0,"y":1e999}}]}])",
-        "[" + repeated(R"({"windows":[]},)", 10'000) + "]"};
+        listOf(R"({"windows":[]},)", 10'000, "")};
 }
 
 // Inputs that are readable and must come back unchanged from their own encoding.
@@ -49,7 +59,7 @@ std::vector<std::string> readableInputs() {
         R"([{"name":"\u0000\u001f\"\\\/","windows":[]}])",
         R"([{"id":"e621e1f8-c36c-495a-93fc-0c247a3e6e5f","windows":[{"app":"\ud83d\ude00",)"
         R"("bundleID":"","display":null,"title":"","rect":{"h":1e308,"w":-1e308,"x":5e-324,"y":0}}]}])",
-        "[" + repeated(R"({"windows":[]},)", 10'000) + R"({"windows":[]}])"};
+        listOf(R"({"windows":[]},)", 10'000, R"({"windows":[]})")};
 }
 
 TEST(LoadLayoutsFuzzRegression, UnreadableInputsYieldNothingWithoutCrashing) {
