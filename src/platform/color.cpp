@@ -51,7 +51,9 @@ double component(std::uint32_t value, int shift) {
     return static_cast<double>((value >> shift) & byteMask) / componentMax;
 }
 
-double mix(double from, double to, double fraction) { return from + (to - from) * fraction; }
+double mix(double from, double to, double fraction) {
+    return from + (to - from) * fraction;
+}
 
 }  // namespace
 

@@ -56,13 +56,17 @@ Path& Path::addRect(Rect r) {
 }
 
 Path& Path::addOval(Rect r) {
-    // A rounded rectangle whose corners meet is an ellipse.
-    return addRoundedRect(r, std::max(std::abs(r.width), std::abs(r.height)));
+    // A rectangle whose elliptical corners meet is an ellipse.
+    return addRoundedCorners(r, std::abs(r.width) / 2, std::abs(r.height) / 2);
 }
 
 Path& Path::addRoundedRect(Rect r, double radius) {
-    const double rx = std::clamp(radius, 0.0, std::abs(r.width) / 2);
-    const double ry = std::clamp(radius, 0.0, std::abs(r.height) / 2);
+    const double largest = std::min(std::abs(r.width), std::abs(r.height)) / 2;
+    const double clamped = std::clamp(radius, 0.0, largest);
+    return addRoundedCorners(r, clamped, clamped);
+}
+
+Path& Path::addRoundedCorners(Rect r, double rx, double ry) {
     const double left = r.minX(), right = r.maxX(), top = r.minY(), bottom = r.maxY();
     moveTo({left + rx, top});
     addSide(*this, {left + rx, top}, {right - rx, top});

@@ -11,7 +11,7 @@ namespace vistrel {
 // lines and cubic Bézier curves. Ovals and rounded rectangles are built from curves here,
 // once, so that every platform draws exactly the same outline.
 class Path {
-public:
+  public:
     enum class Verb { move, line, curve, close };
 
     // One step of the path. `move` and `line` use points[0]; `curve` uses the two control
@@ -36,7 +36,9 @@ public:
 
     static Path rect(Rect rect) { return Path().addRect(rect); }
     static Path oval(Rect rect) { return Path().addOval(rect); }
-    static Path roundedRect(Rect rect, double radius) { return Path().addRoundedRect(rect, radius); }
+    static Path roundedRect(Rect rect, double radius) {
+        return Path().addRoundedRect(rect, radius);
+    }
 
     const std::vector<Element>& elements() const { return elements_; }
     bool isEmpty() const { return elements_.empty(); }
@@ -45,7 +47,10 @@ public:
 
     friend bool operator==(const Path&, const Path&) = default;
 
-private:
+  private:
+    // A closed subpath around the rectangle with elliptical corners of radii rx and ry.
+    Path& addRoundedCorners(Rect rect, double rx, double ry);
+
     std::vector<Element> elements_;
 };
 

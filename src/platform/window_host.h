@@ -10,11 +10,33 @@ namespace vistrel {
 
 class DisplayList;
 
-// One borderless, transparent, shadowless window of the agent's own (an NSWindow or
-// NSPanel whose content view replays a display list with Core Graphics). Frames are in
-// AppKit's global coordinates: origin at the bottom-left of the primary display.
+// Levels of the agent's windows (NSWindow.level), above Mission Control.
+namespace AgentWindowLevel {
+inline constexpr int shelf = 999;
+inline constexpr int overlay = 1000;
+inline constexpr int outline = 1001;
+inline constexpr int badge = 1001;
+inline constexpr int hud = 1002;
+}  // namespace AgentWindowLevel
+
+// NSWindow.collectionBehavior bits the agent uses.
+namespace WindowCollectionBehavior {
+inline constexpr std::uint64_t canJoinAllSpaces = 1 << 0;
+inline constexpr std::uint64_t stationary = 1 << 4;
+inline constexpr std::uint64_t ignoresCycle = 1 << 6;
+inline constexpr std::uint64_t fullScreenAuxiliary = 1 << 8;
+// Every agent window: on all Spaces, left alone by Exposé and window cycling, allowed over
+// full-screen windows (0x151).
+inline constexpr std::uint64_t agentOverlay =
+    canJoinAllSpaces | stationary | ignoresCycle | fullScreenAuxiliary;
+}  // namespace WindowCollectionBehavior
+
+// One borderless, transparent, shadowless window of the agent's own (an NSWindow whose
+// content view replays a display list with Core Graphics), buffered, not released when
+// closed, created with an empty frame and hidden. Frames are in AppKit's global
+// coordinates: origin at the bottom-left of the primary display.
 class AgentWindow {
-public:
+  public:
     virtual ~AgentWindow() = default;
 
     virtual void setFrame(Rect frame, bool display) = 0;
@@ -40,7 +62,7 @@ public:
 
 // Makes the agent's windows.
 class WindowHost {
-public:
+  public:
     virtual ~WindowHost() = default;
     virtual std::unique_ptr<AgentWindow> makeWindow() = 0;
 };

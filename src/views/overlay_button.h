@@ -16,9 +16,12 @@ inline constexpr std::array<OverlayButton, 3> allOverlayButtons = {
 // The shortcut a click on the button performs.
 constexpr Hotkey hotkey(OverlayButton button) {
     switch (button) {
-        case OverlayButton::close: return Hotkey::close;
-        case OverlayButton::minimize: return Hotkey::minimize;
-        case OverlayButton::maximize: return Hotkey::maximize;
+        case OverlayButton::close:
+            return Hotkey::close;
+        case OverlayButton::minimize:
+            return Hotkey::minimize;
+        case OverlayButton::maximize:
+            return Hotkey::maximize;
     }
     return Hotkey::close;
 }

@@ -1,0 +1,203 @@
+#include "platform/sim/cairo_desktop_painter.h"
+
+#include <array>
+#include <functional>
+
+#include "platform/display_list.h"
+
+namespace vistrel {
+
+namespace {
+
+// Window chrome, in points, after macOS's standard document window.
+constexpr double windowCornerRadius = 10;
+constexpr double titleBarHeight = 28;
+constexpr double trafficLightDiameter = 12;
+constexpr double trafficLightInset = 9;
+constexpr double trafficLightSpacing = 20;
+constexpr double titleFontSize = 13;
+constexpr double shadowLayers = 8;
+constexpr double shadowSpread = 1.6;
+constexpr double shadowLayerAlpha = 0.035;
+constexpr double shadowDrop = 6;
+
+constexpr double menuBarFontSize = 13;
+constexpr double menuBarTextInset = 36;
+constexpr double dockTile = 48;
+constexpr double dockGap = 10;
+constexpr double dockPadding = 8;
+constexpr double dockBottomGap = 6;
+constexpr double dockTileRadius = 11;
+
+constexpr double spacesBarHeight = 34;
+constexpr double spacesFontSize = 12;
+constexpr double spacesLabelSpacing = 120;
+constexpr double missionControlDim = 0.38;
+constexpr double labelFontSize = 12;
+constexpr double labelGap = 8;
+constexpr double labelPaddingX = 8;
+constexpr double labelHeight = 20;
+
+constexpr std::array<double, 3> wallpaperTop = {0.16, 0.23, 0.45};
+constexpr std::array<double, 3> wallpaperBottom = {0.47, 0.30, 0.55};
+
+Color rgb(int hex) {
+    constexpr double max = 255;
+    return {((hex >> 16) & 0xFF) / max, ((hex >> 8) & 0xFF) / max, (hex & 0xFF) / max, 1};
+}
+
+const Color windowBody = rgb(0xFBFBFB);
+const Color titleBarColor = rgb(0xECECEC);
+const Color chromeLine = Color::black().withAlpha(0.12);
+const Color titleColor = rgb(0x4A4A4C);
+const Color contentLine = rgb(0xE3E3E6);
+const std::array<Color, 3> trafficLights = {rgb(0xFF5F57), rgb(0xFEBC2E), rgb(0x28C840)};
+
+constexpr std::array<int, 8> accentPalette = {0x4F8EF7, 0xF2994A, 0x27AE60, 0x9B51E0,
+                                              0xEB5757, 0x2D9CDB, 0xF2C94C, 0x6FCF97};
+
+}  // namespace
+
+CairoDesktopPainter::CairoDesktopPainter(cairo_t* cr, CairoFonts& fonts, Rect screen)
+    : cr_(cr), fonts_(fonts), canvas_(cr, fonts, false), screen_(screen) {}
+
+Color CairoDesktopPainter::accentFor(const std::string& bundleIdentifier) {
+    const std::size_t index = std::hash<std::string>{}(bundleIdentifier) % accentPalette.size();
+    return rgb(accentPalette[index]);
+}
+
+void CairoDesktopPainter::wallpaper(bool missionControl) {
+    cairo_pattern_t* gradient =
+        cairo_pattern_create_linear(screen_.minX(), screen_.minY(), screen_.maxX(), screen_.maxY());
+    cairo_pattern_add_color_stop_rgb(gradient, 0, wallpaperTop[0], wallpaperTop[1],
+                                     wallpaperTop[2]);
+    cairo_pattern_add_color_stop_rgb(gradient, 1, wallpaperBottom[0], wallpaperBottom[1],
+                                     wallpaperBottom[2]);
+    cairo_set_source(cr_, gradient);
+    cairo_rectangle(cr_, screen_.x, screen_.y, screen_.width, screen_.height);
+    cairo_fill(cr_);
+    cairo_pattern_destroy(gradient);
+    if (!missionControl) return;
+
+    canvas_.fill(Path::rect(screen_), Color::black().withAlpha(missionControlDim));
+    const Rect bar{screen_.x, screen_.y, screen_.width, spacesBarHeight};
+    canvas_.fill(Path::rect(bar), Color::black().withAlpha(missionControlDim / 2));
+    const Font font = Font::system(spacesFontSize);
+    const double baseline = bar.midY() + spacesFontSize / 3;
+    centeredText({"Desktop 1", font, Color::white(), 0}, bar.midX() - spacesLabelSpacing / 2,
+                 baseline);
+    centeredText({"Desktop 2", font, Color::white().withAlpha(0.6), 0},
+                 bar.midX() + spacesLabelSpacing / 2, baseline);
+}
+
+void CairoDesktopPainter::windowShadow(Rect frame, double radius) {
+    for (int layer = 1; layer <= static_cast<int>(shadowLayers); ++layer) {
+        const double grow = layer * shadowSpread;
+        canvas_.fill(
+            Path::roundedRect(frame.offsetBy(0, shadowDrop).insetBy(-grow, -grow), radius + grow),
+            Color::black().withAlpha(shadowLayerAlpha));
+    }
+}
+
+void CairoDesktopPainter::window(const SimPaintedWindow& w) {
+    const Rect f = w.frame;
+    windowShadow(f, windowCornerRadius);
+    const Path outline = Path::roundedRect(f, windowCornerRadius);
+    canvas_.save();
+    canvas_.clip(outline);
+    canvas_.fill(Path::rect(f), windowBody);
+    canvas_.fill(Path::rect({f.x, f.y, f.width, titleBarHeight}), titleBarColor);
+    canvas_.fill(Path::rect({f.x, f.y + titleBarHeight - 1, f.width, 1}), chromeLine);
+    // A sidebar in the application's colour and a few lines of content.
+    const double sidebar = std::min(f.width * 0.28, 200.0);
+    canvas_.fill(Path::rect({f.x, f.y + titleBarHeight, sidebar, f.height}),
+                 w.accent.withAlpha(0.14));
+    constexpr double lineHeight = 10, lineStep = 24, lineInset = 20;
+    for (double y = f.y + titleBarHeight + lineInset; y + lineHeight < f.maxY() - lineInset;
+         y += lineStep) {
+        const double length =
+            (f.width - sidebar - 2 * lineInset) * (0.55 + 0.4 * std::fmod(y, 3) / 3);
+        canvas_.fill(Path::roundedRect({f.x + sidebar + lineInset, y, length, lineHeight}, 3),
+                     contentLine);
+    }
+    canvas_.restore();
+    canvas_.stroke(outline, chromeLine, StrokeStyle{1, LineCap::butt, LineJoin::miter});
+
+    for (std::size_t i = 0; i < trafficLights.size(); ++i) {
+        const Rect light{f.x + trafficLightInset + static_cast<double>(i) * trafficLightSpacing,
+                         f.y + (titleBarHeight - trafficLightDiameter) / 2, trafficLightDiameter,
+                         trafficLightDiameter};
+        canvas_.fill(Path::oval(light), trafficLights[i]);
+    }
+    centeredText({w.title, Font::system(titleFontSize), titleColor, 0}, f.midX(),
+                 f.y + titleBarHeight / 2 + titleFontSize / 3);
+}
+
+void CairoDesktopPainter::menuBar(const std::string& activeApplication) {
+    constexpr double height = 25;
+    canvas_.fill(Path::rect({screen_.x, screen_.y, screen_.width, height}),
+                 Color::white().withAlpha(0.55));
+    canvas_.drawText({activeApplication, Font::system(menuBarFontSize, FontWeight::bold),
+                      Color::black().withAlpha(0.85), 0},
+                     {screen_.x + menuBarTextInset, screen_.y + height / 2 + menuBarFontSize / 3});
+}
+
+void CairoDesktopPainter::dock(const std::vector<Color>& tiles) {
+    if (tiles.empty()) return;
+    const double count = static_cast<double>(tiles.size());
+    const double width = count * dockTile + (count - 1) * dockGap + 2 * dockPadding;
+    const double height = dockTile + 2 * dockPadding;
+    const Rect shelf{screen_.midX() - width / 2, screen_.maxY() - dockBottomGap - height, width,
+                     height};
+    canvas_.fill(Path::roundedRect(shelf, dockTileRadius + dockPadding),
+                 Color::white().withAlpha(0.28));
+    canvas_.stroke(Path::roundedRect(shelf, dockTileRadius + dockPadding),
+                   Color::white().withAlpha(0.35), StrokeStyle{});
+    for (std::size_t i = 0; i < tiles.size(); ++i) {
+        const Rect tile{shelf.x + dockPadding + static_cast<double>(i) * (dockTile + dockGap),
+                        shelf.y + dockPadding, dockTile, dockTile};
+        canvas_.fill(Path::roundedRect(tile, dockTileRadius), tiles[i]);
+    }
+}
+
+void CairoDesktopPainter::thumbnail(Rect frame, const std::string& label,
+                                    const SimPaintedWindow* source) {
+    if (source != nullptr && !source->frame.isEmpty()) {
+        canvas_.save();
+        canvas_.translate(frame.x, frame.y);
+        canvas_.scale(frame.width / source->frame.width, frame.height / source->frame.height);
+        SimPaintedWindow atOrigin = *source;
+        atOrigin.frame = {0, 0, source->frame.width, source->frame.height};
+        window(atOrigin);
+        canvas_.restore();
+    } else {
+        canvas_.fill(Path::roundedRect(frame, windowCornerRadius / 2), windowBody);
+    }
+    if (label.empty()) return;
+    const TextRun run{label, Font::system(labelFontSize), Color::white(), 0};
+    const double width = canvas_.textWidth(run) + 2 * labelPaddingX;
+    const Rect capsule{frame.midX() - width / 2, frame.maxY() + labelGap, width, labelHeight};
+    canvas_.fill(Path::roundedRect(capsule, labelHeight / 2), Color::black().withAlpha(0.45));
+    centeredText(run, capsule.midX(), capsule.midY() + labelFontSize / 3);
+}
+
+void CairoDesktopPainter::pointer(Point tip) {
+    // The classic arrow, 18 points tall, drawn black on a white rim.
+    Path arrow;
+    arrow.moveTo(tip)
+        .lineTo({tip.x, tip.y + 16.5})
+        .lineTo({tip.x + 3.9, tip.y + 12.8})
+        .lineTo({tip.x + 6.6, tip.y + 18.6})
+        .lineTo({tip.x + 9.2, tip.y + 17.4})
+        .lineTo({tip.x + 6.6, tip.y + 11.8})
+        .lineTo({tip.x + 11.8, tip.y + 11.8})
+        .close();
+    canvas_.stroke(arrow, Color::white(), StrokeStyle{2.4, LineCap::round, LineJoin::round});
+    canvas_.fill(arrow, Color::black());
+}
+
+void CairoDesktopPainter::centeredText(const TextRun& run, double midX, double baseline) {
+    canvas_.drawText(run, {midX - canvas_.textWidth(run) / 2, baseline});
+}
+
+}  // namespace vistrel
