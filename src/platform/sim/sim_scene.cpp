@@ -1,5 +1,7 @@
 #include "platform/sim/sim_scene.h"
 
+#include <cmath>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -49,6 +51,13 @@ const std::vector<SceneApplication>& sceneApplications() {
 }
 
 }  // namespace
+
+std::string describeRect(Rect rect) {
+    std::ostringstream text;
+    text << "(" << std::lround(rect.x) << ", " << std::lround(rect.y) << ") "
+         << std::lround(rect.width) << "×" << std::lround(rect.height);
+    return text.str();
+}
 
 void populateDefaultScene(SimDesktop& desktop) {
     desktop.dock().launch();

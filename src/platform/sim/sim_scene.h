@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "platform/geometry.h"
+
 namespace vistrel {
 
 class SimDesktop;
@@ -8,5 +12,8 @@ class SimDesktop;
 // applications (Safari, Notes, Terminal, Mail, Finder) with six windows of plausible sizes
 // on one 1440×900 screen, overlapping as on a real desktop. Mission Control is closed.
 void populateDefaultScene(SimDesktop& desktop);
+
+// A rectangle as vistrel-sim prints it: "(x, y) w×h", whole points.
+std::string describeRect(Rect rect);
 
 }  // namespace vistrel

@@ -1,0 +1,77 @@
+#include <ostream>
+#include <string>
+
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
+#include "sim_command.h"
+#include "tracking/ax.h"
+#include "tracking/mission_control_detector.h"
+#include "tracking/thumbnail_reader.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr std::uint16_t escapeKeyCode = SimDock::escapeKeyCode;
+
+// Fires the detector's next poll and prints what it saw and when it polls again.
+void pollAndPrint(SimDesktop& desktop, double started, const bool& verdict, std::ostream& out) {
+    desktop.executor().advanceToNextEvent();
+    const double next = desktop.executor().timers().back().interval;
+    out << "  +" << desktop.clock().now() - started << " s  detector: mission control "
+        << (verdict ? "open" : "closed") << ", next poll in " << next << " s\n";
+}
+
+std::string windowUnder(SimDesktop& desktop, Point point) {
+    const auto hit = AX::windowAt(point);
+    if (!hit) return "no window";
+    const SimApplication* app = desktop.application(hit->pid);
+    return (app ? app->name : "?") + " — \"" + AX::string(hit->window, "AXTitle").value_or("") +
+           "\"";
+}
+
+void printThumbnails(SimDesktop& desktop, std::ostream& out) {
+    ThumbnailReader reader;
+    const auto frames = reader.frames();
+    out << "  thumbnail reader: " << frames.size() << " thumbnails from the Dock (pid "
+        << reader.dockPid() << ")\n";
+    for (const Rect& frame : frames) {
+        out << "    " << describeRect(frame) << "  shows " << windowUnder(desktop, frame.mid())
+            << "\n";
+    }
+}
+
+int runMissionControl(SimCommandContext& context) {
+    SimDesktop desktop;
+    ScopedPlatform installed(desktop);
+    populateDefaultScene(desktop);
+    std::ostream& out = context.out;
+    out << "== mission control on the default scene ==\n";
+
+    bool verdict = false;
+    MissionControlDetector detector;
+    detector.onTick = [&verdict](bool open) { verdict = open; };
+    const double started = desktop.clock().now();
+    detector.schedule(MissionControlDetector::startDelay);
+    pollAndPrint(desktop, started, verdict, out);
+
+    out << "  (Mission Control opens)\n";
+    desktop.dock().open();
+    pollAndPrint(desktop, started, verdict, out);
+    printThumbnails(desktop, out);
+
+    out << "  (Escape pressed)\n";
+    platform().windowServer.postKey(escapeKeyCode, true);
+    platform().windowServer.postKey(escapeKeyCode, false);
+    pollAndPrint(desktop, started, verdict, out);
+    out << "\n";
+    return 0;
+}
+
+}  // namespace
+
+VISTREL_SIM_COMMAND("mission-control",
+                    "opens Mission Control, prints the detector's verdict and the thumbnails read",
+                    20, runMissionControl);
+
+}  // namespace vistrel
