@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/accessibility.h"
+#include "platform/platform.h"
+
+namespace vistrel::testing {
+
+// The simulated accessibility interface with a record of every attribute write, in order,
+// so a test can see the sequence in which a window was moved. Installed for its lifetime
+// in place of the desktop's own; the desktop's platform comes back afterwards.
+class RecordingAccessibility : public Accessibility {
+  public:
+    struct Write {
+        std::string attribute;
+        AXValue value;
+        friend bool operator==(const Write&, const Write&) = default;
+    };
+
+    explicit RecordingAccessibility(Platform& inner)
+        : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
+                                    inner.screens,   inner.defaults,     inner.eventTap,
+                                    inner.executor,  inner.clock,        inner.systemLog,
+                                    inner.loginItem, inner.windowHost} {
+        installPlatform(&recording_);
+    }
+    ~RecordingAccessibility() override { installPlatform(&inner_); }
+    RecordingAccessibility(const RecordingAccessibility&) = delete;
+    RecordingAccessibility& operator=(const RecordingAccessibility&) = delete;
+
+    std::vector<Write> writes;
+
+    AXElement systemWide() override { return a().systemWide(); }
+    AXElement application(Pid pid) override { return a().application(pid); }
+    AXError setMessagingTimeout(const AXElement& element, float seconds) override {
+        return a().setMessagingTimeout(element, seconds);
+    }
+    AXError copyAttribute(const AXElement& element, std::string_view attribute,
+                          AXValue& value) override {
+        return a().copyAttribute(element, attribute, value);
+    }
+    AXError setAttribute(const AXElement& element, std::string_view attribute,
+                         const AXValue& value) override {
+        writes.push_back({std::string(attribute), value});
+        return a().setAttribute(element, attribute, value);
+    }
+    AXError isSettable(const AXElement& element, std::string_view attribute,
+                       bool& settable) override {
+        return a().isSettable(element, attribute, settable);
+    }
+    AXError performAction(const AXElement& element, std::string_view action) override {
+        return a().performAction(element, action);
+    }
+    AXError elementAtPosition(const AXElement& root, Point point, AXElement& hit) override {
+        return a().elementAtPosition(root, point, hit);
+    }
+    AXError pid(const AXElement& element, Pid& pid) override { return a().pid(element, pid); }
+    bool isProcessTrusted() override { return a().isProcessTrusted(); }
+    bool promptForTrust() override { return a().promptForTrust(); }
+
+  private:
+    Accessibility& a() { return inner_.accessibility; }
+
+    Platform& inner_;
+    Platform recording_;
+};
+
+}  // namespace vistrel::testing
