@@ -71,14 +71,9 @@ bool close(const AXElement& window) {
 }
 
 // Hides or force-quits the running application; false when it no longer runs.
-bool hide(Pid pid) {
+bool onApplication(Pid pid, bool (Workspace::*call)(Pid)) {
     Workspace& workspace = platform().workspace;
-    return workspace.application(pid) && workspace.hide(pid);
-}
-
-bool kill(Pid pid) {
-    Workspace& workspace = platform().workspace;
-    return workspace.application(pid) && workspace.forceTerminate(pid);
+    return workspace.application(pid) && (workspace.*call)(pid);
 }
 
 bool readsTrue(const AXElement& window, std::string_view attribute) {
@@ -144,11 +139,11 @@ bool perform(Hotkey hotkey, const AXElement& window, Pid pid) {
         case Hotkey::maximize:
             return WindowActions::maximize(window);
         case Hotkey::hide:
-            return hide(pid);
+            return onApplication(pid, &Workspace::hide);
         case Hotkey::hideOthers:
             return WindowActions::hideOthers(pid);
         case Hotkey::kill:
-            return kill(pid);
+            return onApplication(pid, &Workspace::forceTerminate);
     }
     return false;
 }
