@@ -106,7 +106,7 @@ TEST_F(SimScreenRendererTest, MissionControlDrawsTheThumbnailsInsteadOfTheWindow
     const SimWindowId id = desktop.addWindow(pid, window);
     SimScreenScene mc = plain();
     mc.missionControl = true;
-    mc.thumbnails = {{{100, 150, 300, 200}, "Notes", id}};
+    mc.thumbnails = {{{100, 150, 300, 200}, "Notes", id, true}};
     const CairoSurface desk = renderer.render(plain());
     const CairoSurface mission = renderer.render(mc);
     // Where the window's body is on the desktop, Mission Control shows dimmed wallpaper.

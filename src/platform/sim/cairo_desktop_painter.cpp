@@ -1,7 +1,7 @@
 #include "platform/sim/cairo_desktop_painter.h"
 
 #include <array>
-#include <functional>
+#include <cstdint>
 
 #include "platform/display_list.h"
 
@@ -37,6 +37,10 @@ constexpr double labelFontSize = 12;
 constexpr double labelGap = 8;
 constexpr double labelPaddingX = 8;
 constexpr double labelHeight = 20;
+// Mission Control rings the thumbnail under the pointer in the system's blue.
+constexpr double highlightOffset = 1.5;
+constexpr double highlightWidth = 3;
+constexpr double highlightRadius = 8;
 
 constexpr std::array<double, 3> wallpaperTop = {0.16, 0.23, 0.45};
 constexpr std::array<double, 3> wallpaperBottom = {0.47, 0.30, 0.55};
@@ -47,6 +51,7 @@ Color rgb(int hex) {
 }
 
 const Color windowBody = rgb(0xFBFBFB);
+const Color highlightColor = rgb(0x0A84FF);
 const Color titleBarColor = rgb(0xECECEC);
 const Color chromeLine = Color::black().withAlpha(0.12);
 const Color titleColor = rgb(0x4A4A4C);
@@ -61,9 +66,15 @@ constexpr std::array<int, 8> accentPalette = {0x4F8EF7, 0xF2994A, 0x27AE60, 0x9B
 CairoDesktopPainter::CairoDesktopPainter(cairo_t* cr, CairoFonts& fonts, Rect screen)
     : cr_(cr), fonts_(fonts), canvas_(cr, fonts, false), screen_(screen) {}
 
+// FNV-1a: unlike std::hash, the same on every standard library, so pictures do not change
+// from one machine to the next.
 Color CairoDesktopPainter::accentFor(const std::string& bundleIdentifier) {
-    const std::size_t index = std::hash<std::string>{}(bundleIdentifier) % accentPalette.size();
-    return rgb(accentPalette[index]);
+    constexpr std::uint32_t offsetBasis = 2166136261u;
+    constexpr std::uint32_t prime = 16777619u;
+    std::uint32_t hash = offsetBasis;
+    for (unsigned char c : bundleIdentifier)
+        hash = (hash ^ c) * prime;
+    return rgb(accentPalette[hash % accentPalette.size()]);
 }
 
 void CairoDesktopPainter::wallpaper(bool missionControl) {
@@ -161,7 +172,7 @@ void CairoDesktopPainter::dock(const std::vector<Color>& tiles) {
 }
 
 void CairoDesktopPainter::thumbnail(Rect frame, const std::string& label,
-                                    const SimPaintedWindow* source) {
+                                    const SimPaintedWindow* source, bool highlighted) {
     if (source != nullptr && !source->frame.isEmpty()) {
         canvas_.save();
         canvas_.translate(frame.x, frame.y);
@@ -172,6 +183,11 @@ void CairoDesktopPainter::thumbnail(Rect frame, const std::string& label,
         canvas_.restore();
     } else {
         canvas_.fill(Path::roundedRect(frame, windowCornerRadius / 2), windowBody);
+    }
+    if (highlighted) {
+        const Rect ring = frame.insetBy(-highlightOffset, -highlightOffset);
+        canvas_.stroke(Path::roundedRect(ring, highlightRadius), highlightColor,
+                       StrokeStyle{highlightWidth, LineCap::butt, LineJoin::round});
     }
     if (label.empty()) return;
     const TextRun run{label, Font::system(labelFontSize), Color::white(), 0};

@@ -32,8 +32,10 @@ class CairoDesktopPainter {
     void window(const SimPaintedWindow& window);
     void menuBar(const std::string& activeApplication);
     void dock(const std::vector<Color>& tiles);
-    // A window drawn scaled into a Mission Control thumbnail, its label underneath.
-    void thumbnail(Rect frame, const std::string& label, const SimPaintedWindow* window);
+    // A window drawn scaled into a Mission Control thumbnail, its label underneath; the
+    // highlighted one (under the pointer) ringed in blue.
+    void thumbnail(Rect frame, const std::string& label, const SimPaintedWindow* window,
+                   bool highlighted);
     // The arrow pointer with its tip at the point.
     void pointer(Point tip);
 

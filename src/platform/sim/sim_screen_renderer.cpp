@@ -59,11 +59,11 @@ void paintThumbnails(CairoDesktopPainter& painter, SimDesktop& desktop,
     for (const SimScreenThumbnail& thumb : thumbnails) {
         const SimWindow* window = thumb.window ? desktop.window(*thumb.window) : nullptr;
         if (window == nullptr) {
-            painter.thumbnail(thumb.frame, thumb.label, nullptr);
+            painter.thumbnail(thumb.frame, thumb.label, nullptr, thumb.highlighted);
             continue;
         }
         const SimPaintedWindow source = painted(desktop, *window);
-        painter.thumbnail(thumb.frame, thumb.label, &source);
+        painter.thumbnail(thumb.frame, thumb.label, &source, thumb.highlighted);
     }
 }
 

@@ -14,11 +14,13 @@ namespace vistrel {
 class SimDesktop;
 
 // One Mission Control thumbnail as it is drawn: its frame (accessibility coordinates), the
-// label shown under it, and the window it shows, if any.
+// label shown under it, the window it shows, if any, and whether it is ringed as the
+// thumbnail under the pointer.
 struct SimScreenThumbnail {
     Rect frame;
     std::string label;
     std::optional<SimWindowId> window;
+    bool highlighted = false;
 };
 
 // What to draw of the simulated screen.

@@ -2,7 +2,9 @@
 
 namespace vistrel {
 
-void SimAgentWindow::setFrame(Rect frame, bool) { frame_ = frame; }
+void SimAgentWindow::setFrame(Rect frame, bool) {
+    frame_ = frame;
+}
 
 void SimAgentWindow::fade(double alpha, double, std::function<void()> done) {
     alpha_ = alpha;
@@ -29,7 +31,7 @@ namespace {
 
 // The AgentWindow handed out: forwards to the tracked window it keeps alive.
 class OwnedWindow : public AgentWindow {
-public:
+  public:
     explicit OwnedWindow(std::shared_ptr<SimAgentWindow> window) : window_(std::move(window)) {}
     void setFrame(Rect frame, bool display) override { window_->setFrame(frame, display); }
     Rect frame() const override { return window_->frame(); }
@@ -49,7 +51,7 @@ public:
     bool isVisible() const override { return window_->isVisible(); }
     bool isOnActiveSpace() const override { return window_->isOnActiveSpace(); }
 
-private:
+  private:
     std::shared_ptr<SimAgentWindow> window_;
 };
 
