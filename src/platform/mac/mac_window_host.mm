@@ -1,0 +1,89 @@
+#include "platform/mac/mac_window_host.h"
+
+#import <AppKit/AppKit.h>
+
+#include "platform/mac/display_list_view.h"
+
+namespace vistrel {
+
+namespace {
+
+NSRect nsRect(Rect rect) {
+    return NSMakeRect(rect.x, rect.y, rect.width, rect.height);
+}
+
+Rect rectOf(NSRect rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+// One NSWindow with its display-list view, kept alive by ARC for as long as this object.
+class MacAgentWindow : public AgentWindow {
+  public:
+    MacAgentWindow() {
+        window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
+                                              styleMask:NSWindowStyleMaskBorderless
+                                                backing:NSBackingStoreBuffered
+                                                  defer:YES];
+        window_.releasedWhenClosed = NO;
+        window_.opaque = NO;
+        window_.backgroundColor = NSColor.clearColor;
+        window_.hasShadow = NO;
+        view_ = [[VistrelDisplayListView alloc] initWithFrame:NSZeroRect];
+        window_.contentView = view_;
+    }
+
+    // A window whose owner lets go of it leaves the screen at once.
+    ~MacAgentWindow() override {
+        [window_ orderOut:nil];
+        window_.contentView = nil;
+    }
+
+    MacAgentWindow(const MacAgentWindow&) = delete;
+    MacAgentWindow& operator=(const MacAgentWindow&) = delete;
+
+    void setFrame(Rect frame, bool display) override {
+        [window_ setFrame:nsRect(frame) display:display ? YES : NO];
+    }
+    Rect frame() const override { return rectOf(window_.frame); }
+    void setLevel(int level) override { window_.level = level; }
+    void setCollectionBehavior(std::uint64_t behavior) override {
+        window_.collectionBehavior = static_cast<NSWindowCollectionBehavior>(behavior);
+    }
+    void setIgnoresMouseEvents(bool ignores) override {
+        window_.ignoresMouseEvents = ignores ? YES : NO;
+    }
+    void setAlpha(double alpha) override { window_.alphaValue = alpha; }
+    double alpha() const override { return window_.alphaValue; }
+
+    void fade(double alpha, double seconds, std::function<void()> done) override {
+        NSWindow* window = window_;
+        [NSAnimationContext
+            runAnimationGroup:^(NSAnimationContext* context) {
+              context.duration = seconds;
+              window.animator.alphaValue = alpha;
+            }
+            completionHandler:^{
+              if (done) done();
+            }];
+    }
+
+    void setContent(std::shared_ptr<const DisplayList> content) override {
+        [view_ setDisplayList:std::move(content)];
+    }
+    void orderFrontRegardless() override { [window_ orderFrontRegardless]; }
+    void orderOut() override { [window_ orderOut:nil]; }
+    bool isVisible() const override { return window_.visible == YES; }
+    bool isOnActiveSpace() const override { return window_.onActiveSpace == YES; }
+
+  private:
+    NSWindow* window_;
+    VistrelDisplayListView* view_;
+};
+
+}  // namespace
+
+std::unique_ptr<AgentWindow> MacWindowHost::makeWindow() {
+    return std::make_unique<MacAgentWindow>();
+}
+
+}  // namespace vistrel
