@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/display_list.h"
+#include "platform/sim/sim_desktop.h"
 
 namespace vistrel {
 
@@ -54,6 +55,31 @@ const Color windowBody = rgb(0xFBFBFB);
 const Color highlightColor = rgb(0x0A84FF);
 const Color titleBarColor = rgb(0xECECEC);
 const Color chromeLine = Color::black().withAlpha(0.12);
+const Color inactiveSpaceLabel = Color::white().withAlpha(0.6);
+const Color menuBarColor = Color::white().withAlpha(0.55);
+const Color menuBarText = Color::black().withAlpha(0.85);
+const Color dockColor = Color::white().withAlpha(0.28);
+const Color dockRim = Color::white().withAlpha(0.35);
+const Color labelCapsule = Color::black().withAlpha(0.45);
+constexpr double sidebarAlpha = 0.14;
+
+// A window's made-up content: a sidebar tinted with the application's colour and lines of
+// text whose lengths cycle through these fractions of the free width.
+constexpr double sidebarFraction = 0.28;
+constexpr double sidebarMaximum = 200;
+constexpr double contentLineHeight = 10;
+constexpr double contentLineStep = 24;
+constexpr double contentInset = 20;
+constexpr double contentLineRadius = 3;
+constexpr std::array<double, 4> contentLineLengths = {0.92, 0.74, 0.86, 0.58};
+
+// A line of text sits with its baseline this share of the font size below its middle.
+constexpr double baselineBelowMiddle = 1.0 / 3;
+
+// The arrow pointer's outline after its tip, in points from the tip, and the rim around it.
+constexpr std::array<Point, 6> arrowOutline = {Point{0, 16.5}, {3.9, 12.8}, {6.6, 18.6},
+                                               {9.2, 17.4},    {6.6, 11.8}, {11.8, 11.8}};
+constexpr double arrowRimWidth = 2.4;
 const Color titleColor = rgb(0x4A4A4C);
 const Color contentLine = rgb(0xE3E3E6);
 const std::array<Color, 3> trafficLights = {rgb(0xFF5F57), rgb(0xFEBC2E), rgb(0x28C840)};
@@ -64,7 +90,7 @@ constexpr std::array<int, 8> accentPalette = {0x4F8EF7, 0xF2994A, 0x27AE60, 0x9B
 }  // namespace
 
 CairoDesktopPainter::CairoDesktopPainter(cairo_t* cr, CairoFonts& fonts, Rect screen)
-    : cr_(cr), fonts_(fonts), canvas_(cr, fonts, false), screen_(screen) {}
+    : cr_(cr), canvas_(cr, fonts, false), screen_(screen) {}
 
 // FNV-1a: unlike std::hash, the same on every standard library, so pictures do not change
 // from one machine to the next.
@@ -94,11 +120,11 @@ void CairoDesktopPainter::wallpaper(bool missionControl) {
     const Rect bar{screen_.x, screen_.y, screen_.width, spacesBarHeight};
     canvas_.fill(Path::rect(bar), Color::black().withAlpha(missionControlDim / 2));
     const Font font = Font::system(spacesFontSize);
-    const double baseline = bar.midY() + spacesFontSize / 3;
+    const double baseline = bar.midY() + spacesFontSize * baselineBelowMiddle;
     centeredText({"Desktop 1", font, Color::white(), 0}, bar.midX() - spacesLabelSpacing / 2,
                  baseline);
-    centeredText({"Desktop 2", font, Color::white().withAlpha(0.6), 0},
-                 bar.midX() + spacesLabelSpacing / 2, baseline);
+    centeredText({"Desktop 2", font, inactiveSpaceLabel, 0}, bar.midX() + spacesLabelSpacing / 2,
+                 baseline);
 }
 
 void CairoDesktopPainter::windowShadow(Rect frame, double radius) {
@@ -120,15 +146,16 @@ void CairoDesktopPainter::window(const SimPaintedWindow& w) {
     canvas_.fill(Path::rect({f.x, f.y, f.width, titleBarHeight}), titleBarColor);
     canvas_.fill(Path::rect({f.x, f.y + titleBarHeight - 1, f.width, 1}), chromeLine);
     // A sidebar in the application's colour and a few lines of content.
-    const double sidebar = std::min(f.width * 0.28, 200.0);
+    const double sidebar = std::min(f.width * sidebarFraction, sidebarMaximum);
     canvas_.fill(Path::rect({f.x, f.y + titleBarHeight, sidebar, f.height}),
-                 w.accent.withAlpha(0.14));
-    constexpr double lineHeight = 10, lineStep = 24, lineInset = 20;
-    for (double y = f.y + titleBarHeight + lineInset; y + lineHeight < f.maxY() - lineInset;
-         y += lineStep) {
-        const double length =
-            (f.width - sidebar - 2 * lineInset) * (0.55 + 0.4 * std::fmod(y, 3) / 3);
-        canvas_.fill(Path::roundedRect({f.x + sidebar + lineInset, y, length, lineHeight}, 3),
+                 w.accent.withAlpha(sidebarAlpha));
+    const double freeWidth = f.width - sidebar - 2 * contentInset;
+    std::size_t line = 0;
+    for (double y = f.y + titleBarHeight + contentInset;
+         y + contentLineHeight < f.maxY() - contentInset; y += contentLineStep) {
+        const double length = freeWidth * contentLineLengths[line++ % contentLineLengths.size()];
+        canvas_.fill(Path::roundedRect({f.x + sidebar + contentInset, y, length, contentLineHeight},
+                                       contentLineRadius),
                      contentLine);
     }
     canvas_.restore();
@@ -141,16 +168,15 @@ void CairoDesktopPainter::window(const SimPaintedWindow& w) {
         canvas_.fill(Path::oval(light), trafficLights[i]);
     }
     centeredText({w.title, Font::system(titleFontSize), titleColor, 0}, f.midX(),
-                 f.y + titleBarHeight / 2 + titleFontSize / 3);
+                 f.y + titleBarHeight / 2 + titleFontSize * baselineBelowMiddle);
 }
 
 void CairoDesktopPainter::menuBar(const std::string& activeApplication) {
-    constexpr double height = 25;
-    canvas_.fill(Path::rect({screen_.x, screen_.y, screen_.width, height}),
-                 Color::white().withAlpha(0.55));
-    canvas_.drawText({activeApplication, Font::system(menuBarFontSize, FontWeight::bold),
-                      Color::black().withAlpha(0.85), 0},
-                     {screen_.x + menuBarTextInset, screen_.y + height / 2 + menuBarFontSize / 3});
+    canvas_.fill(Path::rect({screen_.x, screen_.y, screen_.width, simMenuBarHeight}), menuBarColor);
+    canvas_.drawText(
+        {activeApplication, Font::system(menuBarFontSize, FontWeight::bold), menuBarText, 0},
+        {screen_.x + menuBarTextInset,
+         screen_.y + simMenuBarHeight / 2 + menuBarFontSize * baselineBelowMiddle});
 }
 
 void CairoDesktopPainter::dock(const std::vector<Color>& tiles) {
@@ -160,10 +186,9 @@ void CairoDesktopPainter::dock(const std::vector<Color>& tiles) {
     const double height = dockTile + 2 * dockPadding;
     const Rect shelf{screen_.midX() - width / 2, screen_.maxY() - dockBottomGap - height, width,
                      height};
-    canvas_.fill(Path::roundedRect(shelf, dockTileRadius + dockPadding),
-                 Color::white().withAlpha(0.28));
-    canvas_.stroke(Path::roundedRect(shelf, dockTileRadius + dockPadding),
-                   Color::white().withAlpha(0.35), StrokeStyle{});
+    const Path outline = Path::roundedRect(shelf, dockTileRadius + dockPadding);
+    canvas_.fill(outline, dockColor);
+    canvas_.stroke(outline, dockRim, StrokeStyle{});
     for (std::size_t i = 0; i < tiles.size(); ++i) {
         const Rect tile{shelf.x + dockPadding + static_cast<double>(i) * (dockTile + dockGap),
                         shelf.y + dockPadding, dockTile, dockTile};
@@ -193,22 +218,19 @@ void CairoDesktopPainter::thumbnail(Rect frame, const std::string& label,
     const TextRun run{label, Font::system(labelFontSize), Color::white(), 0};
     const double width = canvas_.textWidth(run) + 2 * labelPaddingX;
     const Rect capsule{frame.midX() - width / 2, frame.maxY() + labelGap, width, labelHeight};
-    canvas_.fill(Path::roundedRect(capsule, labelHeight / 2), Color::black().withAlpha(0.45));
-    centeredText(run, capsule.midX(), capsule.midY() + labelFontSize / 3);
+    canvas_.fill(Path::roundedRect(capsule, labelHeight / 2), labelCapsule);
+    centeredText(run, capsule.midX(), capsule.midY() + labelFontSize * baselineBelowMiddle);
 }
 
 void CairoDesktopPainter::pointer(Point tip) {
-    // The classic arrow, 18 points tall, drawn black on a white rim.
+    // The classic arrow, drawn black on a white rim.
     Path arrow;
-    arrow.moveTo(tip)
-        .lineTo({tip.x, tip.y + 16.5})
-        .lineTo({tip.x + 3.9, tip.y + 12.8})
-        .lineTo({tip.x + 6.6, tip.y + 18.6})
-        .lineTo({tip.x + 9.2, tip.y + 17.4})
-        .lineTo({tip.x + 6.6, tip.y + 11.8})
-        .lineTo({tip.x + 11.8, tip.y + 11.8})
-        .close();
-    canvas_.stroke(arrow, Color::white(), StrokeStyle{2.4, LineCap::round, LineJoin::round});
+    arrow.moveTo(tip);
+    for (const Point& p : arrowOutline)
+        arrow.lineTo({tip.x + p.x, tip.y + p.y});
+    arrow.close();
+    canvas_.stroke(arrow, Color::white(),
+                   StrokeStyle{arrowRimWidth, LineCap::round, LineJoin::round});
     canvas_.fill(arrow, Color::black());
 }
 

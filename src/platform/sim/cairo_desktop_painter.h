@@ -47,7 +47,6 @@ class CairoDesktopPainter {
     void centeredText(const TextRun& run, double midX, double baseline);
 
     cairo_t* cr_;
-    CairoFonts& fonts_;
     CairoCanvas canvas_;
     Rect screen_;
 };
