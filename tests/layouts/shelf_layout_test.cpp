@@ -156,24 +156,38 @@ TEST(ShelfLayout, KeepsOpenNearTheFrameAndFarBelowThePill) {
     EXPECT_FALSE(layout.keepsOpen({pill.midX(), pill.maxY() + 140.5}));
 }
 
+void expectCellsApartAndInsideTheFrame(const ShelfLayout& layout) {
+    for (std::size_t i = 0; i < layout.cells.size(); ++i) {
+        const auto& cell = layout.cells[i];
+        EXPECT_TRUE(layout.frame.contains(cell.rect)) << "cell " << i;
+        EXPECT_TRUE(cell.rect.contains(cell.screen)) << "cell " << i;
+        for (std::size_t j = i + 1; j < layout.cells.size(); ++j) {
+            EXPECT_FALSE(cell.rect.intersects(layout.cells[j].rect)) << i << " and " << j;
+        }
+    }
+}
+
 TEST(ShelfLayout, CellsNeverOverlapAndStayInsideTheFrameForAnyAreaAndCount) {
     std::mt19937_64 random(5);
     std::uniform_real_distribution<double> width(300, 7000);
     std::uniform_real_distribution<double> origin(-3000, 3000);
-    for (int saved = 0; saved <= 20; ++saved) {
-        for (int round = 0; round < 40; ++round) {
-            const Rect area{origin(random), origin(random), width(random), 800};
-            const ShelfLayout layout = ShelfLayout::make(saved, templateCount, area);
-            for (std::size_t i = 0; i < layout.cells.size(); ++i) {
-                const auto& cell = layout.cells[i];
-                EXPECT_TRUE(layout.frame.contains(cell.rect)) << saved << " in " << area.width;
-                EXPECT_TRUE(cell.rect.contains(cell.screen));
-                for (std::size_t j = i + 1; j < layout.cells.size(); ++j) {
-                    EXPECT_FALSE(cell.rect.intersects(layout.cells[j].rect))
-                        << saved << " in " << area.width << ": " << i << " and " << j;
+    for (int templates = 0; templates <= templateCount; ++templates) {
+        for (int saved = 0; saved <= 20; ++saved) {
+            for (int round = 0; round < 30; ++round) {
+                const double areaWidth = round == 0 ? 300 : round == 1 ? 7000 : width(random);
+                const Rect area{origin(random), origin(random), areaWidth, 800};
+                const ShelfLayout layout = ShelfLayout::make(saved, templates, area);
+                SCOPED_TRACE(::testing::Message() << saved << " saved, " << templates
+                                                  << " templates, " << areaWidth << " wide");
+                expectCellsApartAndInsideTheFrame(layout);
+                const auto shownSaved = layout.cells.size() - 1 - templates;
+                EXPECT_LE(shownSaved, std::min<std::size_t>(saved, 9));
+                // Saved cells are only shown where the whole shelf fits within the 16-point
+                // margins, give or take the half point of rounding its position.
+                if (shownSaved > 0) {
+                    EXPECT_TRUE(area.insetBy(15.5, 0).contains(layout.frame));
                 }
             }
-            EXPECT_LE(layout.cells.size(), 9u + 1u + 5u);
         }
     }
 }
