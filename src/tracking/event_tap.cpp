@@ -9,7 +9,9 @@ EventTap::~EventTap() {
 }
 
 bool EventTap::start() {
-    if (port_ != nullptr) return true;
+    if (isRunning()) return true;
+    // A port the system invalidated is gone for good: drop it and make a new tap.
+    if (port_ != nullptr) stop();
     EventTapPort& port = platform().eventTap;
     // The port lives no longer than this tap (stop() runs before it goes), so the handler
     // may refer to the tap unretained, as the system's callback does with its refcon.

@@ -400,6 +400,8 @@ AXError SimAccessibility::press(SimWindow& window, SimWindowPart part) {
 }
 
 AXError SimAccessibility::elementAtPosition(const AXElement& root, Point point, AXElement& hit) {
+    ++hitTests_;
+    desktop_.clock().sleep(hitTestLatency);
     if (!desktop_.trusted) return AXError::apiDisabled;
     const SimHandle* handle = handleOf(root);
     if (handle == nullptr || handle->kind != Kind::systemWide) return AXError::illegalArgument;

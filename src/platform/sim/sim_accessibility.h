@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -61,6 +62,10 @@ class SimAccessibility : public Accessibility {
     std::map<Pid, std::vector<AXElement>> applicationChildren;
     // Asked first by every hit-test; a scene answers for the points it owns.
     std::function<std::optional<AXElement>(Point)> hitTestOverride;
+    // Virtual seconds every hit-test takes on top of the applications' own latency.
+    double hitTestLatency = 0;
+    // How many hit-tests were asked for.
+    std::size_t hitTests() const { return hitTests_; }
     // Called before an application element's attributes are read, so a scene can bring the
     // elements it derives from the desktop up to date (the Dock's Mission Control tree).
     std::function<void(Pid)> onApplicationRead;
@@ -94,6 +99,7 @@ class SimAccessibility : public Accessibility {
     void count(std::string_view attribute);
 
     SimDesktop& desktop_;
+    std::atomic<std::size_t> hitTests_{0};
     mutable std::mutex mutex_;
     std::unordered_map<AXElement, float> timeouts_;
     std::map<SimNodeId, Node> nodes_;

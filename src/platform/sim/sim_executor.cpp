@@ -127,7 +127,7 @@ std::size_t SimExecutor::runUntilIdle() {
     }
 }
 
-bool SimExecutor::fireNext(double limit) {
+bool SimExecutor::fireNext(double limit, bool mainOnly) {
     Scheduled next;
     {
         std::lock_guard lock(mutex_);
@@ -138,7 +138,11 @@ bool SimExecutor::fireNext(double limit) {
         timeline_.erase(first);
     }
     if (auto queue = next.queue.lock()) queue->async(std::move(next.task));
-    runUntilIdle();
+    if (mainOnly) {
+        main_->drain();
+    } else {
+        runUntilIdle();
+    }
     return true;
 }
 
@@ -146,6 +150,14 @@ void SimExecutor::advance(double seconds) {
     const double target = clock_.now() + seconds;
     runUntilIdle();
     while (fireNext(target)) {
+    }
+    clock_.advanceTo(target);
+}
+
+void SimExecutor::advanceMain(double seconds) {
+    const double target = clock_.now() + seconds;
+    main_->drain();
+    while (fireNext(target, true)) {
     }
     clock_.advanceTo(target);
 }

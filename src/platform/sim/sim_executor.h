@@ -73,6 +73,9 @@ class SimExecutor : public Executor {
     // Moves virtual time forward by `seconds`, firing delayed work and timers in time order
     // and running everything that becomes ready after each one.
     void advance(double seconds);
+    // Like advance, but runs only the main queue: work handed to other queues stays
+    // pending, so a test can stage what the main thread does while a job is in flight.
+    void advanceMain(double seconds);
     // Moves to the next timer or delayed task and fires it; false when none is armed.
     bool advanceToNextEvent();
     // When the next timer or delayed task is due; nothing when none is armed.
@@ -90,7 +93,7 @@ class SimExecutor : public Executor {
         std::weak_ptr<SimQueue> queue;
         Task task;
     };
-    bool fireNext(double limit);
+    bool fireNext(double limit, bool mainOnly = false);
     std::vector<std::shared_ptr<SimQueue>> liveQueues() const;
 
     SimClock& clock_;

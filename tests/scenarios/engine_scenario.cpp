@@ -1,0 +1,83 @@
+#include "engine_scenario.h"
+
+#include "tracking/mission_control_detector.h"
+
+namespace vistrel::testing {
+
+EngineScenario::EngineScenario() {
+    populateDefaultScene(desktop);
+    engine = Engine::make();
+    engine->start();
+    desktop.executor().advance(MissionControlDetector::startDelay);
+}
+
+void EngineScenario::openMissionControl() {
+    desktop.dock().open();
+    desktop.executor().advance(MissionControlDetector::closedInterval);
+}
+
+void EngineScenario::closeMissionControl() {
+    desktop.dock().close();
+    desktop.executor().advance(MissionControlDetector::openInterval);
+}
+
+void EngineScenario::tick() {
+    desktop.executor().advance(MissionControlDetector::openInterval);
+}
+
+bool EngineScenario::move(Point point) {
+    const bool passed = desktop.eventTap().deliver(SimInput::mouseMoved(point));
+    settle();
+    return passed;
+}
+
+bool EngineScenario::press(Point point, std::uint64_t flags) {
+    const bool passed = desktop.eventTap().deliver(SimInput::mouseDown(point, flags));
+    settle();
+    return passed;
+}
+
+bool EngineScenario::release(Point point) {
+    const bool passed = desktop.eventTap().deliver(SimInput::mouseUp(point));
+    settle();
+    return passed;
+}
+
+bool EngineScenario::key(std::int64_t code, std::uint64_t flags, bool autorepeat) {
+    const bool passed = desktop.eventTap().deliver(SimInput::keyDown(code, flags, autorepeat));
+    settle();
+    return passed;
+}
+
+bool EngineScenario::keyUp(std::int64_t code) {
+    const bool passed = desktop.eventTap().deliver(SimInput::keyUp(code));
+    settle();
+    return passed;
+}
+
+SimWindowId EngineScenario::windowTitled(const std::string& title) {
+    for (const SimWindow& window : desktop.windows()) {
+        if (window.title == title) return window.id;
+    }
+    ADD_FAILURE() << "no window titled " << title;
+    return 0;
+}
+
+Rect EngineScenario::thumbOf(const std::string& title) {
+    const SimWindowId id = windowTitled(title);
+    for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
+        if (thumbnail.window == id) return thumbnail.frame;
+    }
+    ADD_FAILURE() << "no thumbnail for " << title;
+    return {};
+}
+
+std::optional<Point> EngineScenario::buttonCentre(OverlayButton kind) const {
+    if (!engine->layout()) return std::nullopt;
+    for (const auto& item : engine->layout()->items) {
+        if (item.kind == kind) return item.rect.mid();
+    }
+    return std::nullopt;
+}
+
+}  // namespace vistrel::testing

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_scene.h"
+#include "tracking/engine.h"
+
+namespace vistrel::testing {
+
+// The agent's engine on the default scene, in virtual time: a test opens Mission Control,
+// moves the pointer, clicks and types, and looks at the desktop and the log.
+class EngineScenario : public ::testing::Test {
+  protected:
+    EngineScenario();
+
+    // Opens Mission Control and lets the detector notice it and read the thumbnails.
+    void openMissionControl();
+    void closeMissionControl();
+    // One detector tick in virtual time (the open-state pace), with everything it starts.
+    void tick();
+    // Delivers an event and runs the work it starts; answers whether it passed on.
+    bool move(Point point);
+    bool press(Point point, std::uint64_t flags = 0);
+    bool release(Point point);
+    bool key(std::int64_t code, std::uint64_t flags, bool autorepeat = false);
+    bool keyUp(std::int64_t code);
+    // Runs the queues until nothing is pending.
+    void settle() { desktop.executor().runUntilIdle(); }
+
+    // The thumbnail of the window with this title, and the window itself.
+    Rect thumbOf(const std::string& title);
+    SimWindowId windowTitled(const std::string& title);
+    // The middle of a thumbnail, clear of its scaled title bar.
+    Point inside(Rect thumb) const { return {thumb.midX(), thumb.midY()}; }
+    // The centre of the strip button of a kind, when the strip shows it.
+    std::optional<Point> buttonCentre(OverlayButton kind) const;
+    std::size_t logged(std::string_view message) { return desktop.systemLog().count(message); }
+
+    SimDesktop desktop;
+    ScopedPlatform installed{desktop};
+    std::shared_ptr<Engine> engine;
+};
+
+}  // namespace vistrel::testing
