@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/mac/mac_accessibility.h"
+#include "platform/mac/mac_defaults.h"
+#include "platform/mac/mac_event_tap_port.h"
+#include "platform/mac/mac_executor.h"
+#include "platform/mac/mac_login_item.h"
+#include "platform/mac/mac_system_log.h"
+#include "platform/mac/mac_window_host.h"
+#include "platform/mac/mac_window_server.h"
+#include "platform/mac/mac_workspace.h"
+#include "platform/platform.h"
+
+namespace vistrel {
+
+// The real machine: every platform interface over Apple's frameworks, for the life of
+// the process.
+class MacPlatform {
+public:
+    MacPlatform()
+        : platform_{accessibility_, windowServer_, workspace_, screens_,  defaults_,   eventTap_,
+                    executor_,      clock_,        systemLog_, loginItem_, windowHost_} {}
+    MacPlatform(const MacPlatform&) = delete;
+    MacPlatform& operator=(const MacPlatform&) = delete;
+
+    Platform& platform() { return platform_; }
+
+private:
+    MacAccessibility accessibility_;
+    MacWindowServer windowServer_;
+    MacWorkspace workspace_;
+    MacScreenList screens_;
+    MacDefaults defaults_;
+    MacEventTapPort eventTap_;
+    MacExecutor executor_;
+    MacClock clock_;
+    MacSystemLog systemLog_;
+    MacLoginItem loginItem_;
+    MacWindowHost windowHost_;
+    Platform platform_;
+};
+
+}  // namespace vistrel
