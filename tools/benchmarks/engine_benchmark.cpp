@@ -1,0 +1,88 @@
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_scene.h"
+#include "tracking/engine.h"
+#include "tracking/mission_control_detector.h"
+
+namespace vistrel {
+namespace {
+
+// The default scene with Mission Control open and the strip shown over the first thumbnail.
+struct HoveredSession {
+    HoveredSession() {
+        populateDefaultScene(desktop);
+        engine = Engine::make();
+        engine->start();
+        desktop.dock().open();
+        desktop.executor().advance(MissionControlDetector::startDelay +
+                                   MissionControlDetector::closedInterval);
+        thumb = desktop.dock().thumbnails().front().frame;
+        deliver(thumb.mid());
+        desktop.executor().runUntilIdle();
+    }
+
+    void deliver(Point point) { desktop.eventTap().deliver(SimInput::mouseMoved(point)); }
+
+    SimDesktop desktop;
+    ScopedPlatform installed{desktop};
+    std::shared_ptr<Engine> engine;
+    Rect thumb;
+};
+
+// Main-thread cost of a pointer move over the hovered thumbnail: the tap callback, the
+// strip and safe-zone test and the hand-off of a hit-test to the hover queue. The hover
+// queue is drained outside the timing.
+void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state) {
+    HoveredSession session;
+    const Point a{session.thumb.midX() - 5, session.thumb.midY()};
+    const Point b{session.thumb.midX() + 5, session.thumb.midY()};
+    bool flip = false;
+    for (auto _ : state) {
+        session.deliver(flip ? a : b);
+        flip = !flip;
+        state.PauseTiming();
+        session.desktop.executor().runUntilIdle();
+        state.ResumeTiming();
+    }
+    benchmark::DoNotOptimize(session.engine->target());
+}
+BENCHMARK(BM_PointerMoveOverHoveredThumbnail);
+
+// Main-thread cost of a pointer move along the strip: only the safe-zone test and the
+// hovered button, no hit-test.
+void BM_PointerMoveAlongTheStrip(benchmark::State& state) {
+    HoveredSession session;
+    const Rect button = session.engine->layout()->items.front().rect;
+    const Point a = button.mid();
+    const Point b{button.midX() + 1, button.midY()};
+    bool flip = false;
+    for (auto _ : state) {
+        session.deliver(flip ? a : b);
+        flip = !flip;
+    }
+    benchmark::DoNotOptimize(session.engine->target());
+}
+BENCHMARK(BM_PointerMoveAlongTheStrip);
+
+// One hit-test round trip in the simulator: the move, the hit-test and button query on the
+// hover queue, and the result applied on the main queue.
+void BM_HitTestRoundTrip(benchmark::State& state) {
+    HoveredSession session;
+    const Point a{session.thumb.midX() - 5, session.thumb.midY()};
+    const Point b{session.thumb.midX() + 5, session.thumb.midY()};
+    bool flip = false;
+    for (auto _ : state) {
+        session.deliver(flip ? a : b);
+        flip = !flip;
+        session.desktop.executor().runUntilIdle();
+    }
+    benchmark::DoNotOptimize(session.engine->target());
+}
+BENCHMARK(BM_HitTestRoundTrip);
+
+}  // namespace
+}  // namespace vistrel
