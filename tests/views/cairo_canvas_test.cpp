@@ -148,12 +148,13 @@ TEST_F(CairoCanvasTest, AMissingFontFileIsLoggedOnceAndTextStillDraws) {
     EXPECT_NE(missing.face(font), nullptr);
     EXPECT_NE(missing.face(font), nullptr);
     const std::string line =
-        "sim: font GeistMono-Medium.ttf could not be loaded, drawing its text in sans-serif";
+        "sim: font GeistMono-Medium.ttf could not be loaded, drawing its text in the system font";
     EXPECT_EQ(desktop.systemLog().count(line), 1u);
 
     RecordingCanvas canvas(true);
     canvas.drawText({"Vistrel", font, Color::black(), 0}, {2, 20});
-    renderDisplayList(*canvas.finish(), {80, 30}, 1, missing);  // must not crash
+    const CairoSurface pixels = renderDisplayList(*canvas.finish(), {80, 30}, 1, missing);
+    EXPECT_GT(inked(pixels, {0, 0, 80, 30}), 20);
 }
 
 TEST_F(CairoCanvasTest, SurfacesSurviveAPngRoundTrip) {

@@ -70,7 +70,17 @@ cairo_font_face_t* CairoFonts::load(const std::string& name) {
     const auto file = directory_ / (name + std::string(fontExtension));
     if (cairo_font_face_t* face = faceFromFile(file)) return face;
     Log::error("sim: font " + name + std::string(fontExtension) +
-               " could not be loaded, drawing its text in " + fallbackFamily);
+               " could not be loaded, drawing its text in the system font");
+    return fallback();
+}
+
+// The system font stands in: the bundled display face from the repository's resources, or
+// when even that is missing, Cairo's default sans-serif face.
+cairo_font_face_t* CairoFonts::fallback() {
+    if (fallback_ != nullptr) return fallback_;
+    const auto systemFile =
+        defaultDirectory() / (std::string(FontName::instrumentSans) + std::string(fontExtension));
+    fallback_ = faceFromFile(systemFile);
     if (fallback_ == nullptr) {
         fallback_ = cairo_toy_font_face_create(fallbackFamily, CAIRO_FONT_SLANT_NORMAL,
                                                CAIRO_FONT_WEIGHT_NORMAL);

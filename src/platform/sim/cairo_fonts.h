@@ -13,7 +13,7 @@ namespace vistrel {
 // The fonts the simulator draws text with: the agent's bundled TrueType files, loaded with
 // FreeType. The system font is stood in for by the bundled display font, so pictures come
 // out the same on every machine. A font file that cannot be loaded is logged once and its
-// text falls back to Cairo's default sans-serif face.
+// text falls back to the system font.
 class CairoFonts {
   public:
     // The folder holding "<PostScript name>.ttf" files; by default the repository's
@@ -30,6 +30,7 @@ class CairoFonts {
 
   private:
     cairo_font_face_t* load(const std::string& name);
+    cairo_font_face_t* fallback();
 
     std::filesystem::path directory_;
     std::map<std::string, cairo_font_face_t*> faces_;
