@@ -27,10 +27,18 @@ struct HoveredSession {
 
     void deliver(Point point) { desktop.eventTap().deliver(SimInput::mouseMoved(point)); }
 
+    // Two points inside the hovered thumbnail, in turn, so no move repeats the last one.
+    Point nextInThumbnail() {
+        constexpr double offset = 5;
+        flip = !flip;
+        return {thumb.midX() + (flip ? offset : -offset), thumb.midY()};
+    }
+
     SimDesktop desktop;
     ScopedPlatform installed{desktop};
     std::shared_ptr<Engine> engine;
     Rect thumb;
+    bool flip = false;
 };
 
 // Main-thread cost of a pointer move over the hovered thumbnail: the tap callback, the
@@ -38,12 +46,8 @@ struct HoveredSession {
 // queue is drained outside the timing.
 void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state) {
     HoveredSession session;
-    const Point a{session.thumb.midX() - 5, session.thumb.midY()};
-    const Point b{session.thumb.midX() + 5, session.thumb.midY()};
-    bool flip = false;
     for (auto _ : state) {
-        session.deliver(flip ? a : b);
-        flip = !flip;
+        session.deliver(session.nextInThumbnail());
         state.PauseTiming();
         session.desktop.executor().runUntilIdle();
         state.ResumeTiming();
@@ -72,12 +76,8 @@ BENCHMARK(BM_PointerMoveAlongTheStrip);
 // hover queue, and the result applied on the main queue.
 void BM_HitTestRoundTrip(benchmark::State& state) {
     HoveredSession session;
-    const Point a{session.thumb.midX() - 5, session.thumb.midY()};
-    const Point b{session.thumb.midX() + 5, session.thumb.midY()};
-    bool flip = false;
     for (auto _ : state) {
-        session.deliver(flip ? a : b);
-        flip = !flip;
+        session.deliver(session.nextInThumbnail());
         session.desktop.executor().runUntilIdle();
     }
     benchmark::DoNotOptimize(session.engine->target());
