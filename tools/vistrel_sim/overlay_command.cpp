@@ -8,6 +8,7 @@
 #include "settings/settings.h"
 #include "settings/shared.h"
 #include "sim_command.h"
+#include "sim_pictures.h"
 #include "tracking/overlay_layout.h"
 #include "views/overlay_controller.h"
 
@@ -19,18 +20,6 @@ namespace {
 constexpr double buttonGap = 4;
 constexpr std::string_view pictureName = "overlay.png";
 
-// Mission Control's thumbnails as the renderer draws them, labelled with their window
-// titles, the hovered one ringed.
-std::vector<SimScreenThumbnail> screenThumbnails(SimDesktop& desktop, const SimThumbnail& hovered) {
-    std::vector<SimScreenThumbnail> result;
-    for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
-        const SimWindow* window = desktop.window(thumbnail.window);
-        result.push_back({thumbnail.frame, window != nullptr ? window->title : std::string(),
-                          thumbnail.window, thumbnail == hovered});
-    }
-    return result;
-}
-
 // Over the hovered button, towards its lower right, so the arrow leaves its glyph in view.
 Point pointerOver(const OverlayLayout& layout, Rect fallback) {
     constexpr double towardsLowerRight = 0.27;
@@ -38,15 +27,6 @@ Point pointerOver(const OverlayLayout& layout, Rect fallback) {
     const Rect button = layout.items.front().rect;
     return {button.midX() + button.width * towardsLowerRight,
             button.midY() + button.height * towardsLowerRight};
-}
-
-// The largest thumbnail: the one a user is most likely to point at.
-std::optional<SimThumbnail> largestThumbnail(SimDesktop& desktop) {
-    std::optional<SimThumbnail> largest;
-    for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
-        if (!largest || thumbnail.frame.area() > largest->frame.area()) largest = thumbnail;
-    }
-    return largest;
 }
 
 // A user who turned on every button of the strip.
@@ -77,7 +57,7 @@ int renderOverlay(SimCommandContext& context) {
 
     SimScreenScene scene;
     scene.missionControl = true;
-    scene.thumbnails = screenThumbnails(desktop, *hovered);
+    scene.thumbnails = screenThumbnails(desktop, hovered->window);
     scene.pointer = pointerOver(layout, hovered->frame);
     const auto path = context.outputDirectory / pictureName;
     if (!SimScreenRenderer(desktop).writePng(scene, path)) return 1;
