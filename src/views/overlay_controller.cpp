@@ -88,6 +88,8 @@ void OverlayController::recreateWindow(Rect frame) {
 
 void OverlayController::hide() {
     shown_.reset();
+    // A hidden strip has no button under the pointer; the next strip starts unhovered.
+    setHovered(std::nullopt);
     view_.setNeedsDisplay();
     if (window_->isVisible()) window_->orderOut();
 }

@@ -93,6 +93,29 @@ TEST_F(EngineTest, ClickingTheCloseButtonSwallowsTheClickAndItsReleaseAndClosesT
     EXPECT_TRUE(release(*close)) << "a later release passes again";
 }
 
+TEST_F(EngineTest, StripShownAfterAnActionStartsWithNoButtonHovered) {
+    openMissionControl();
+    move(inside(thumbOf("Notes")));
+    const auto close = buttonCentre(OverlayButton::close);
+    ASSERT_TRUE(close);
+    move(*close);
+    ASSERT_EQ(engine->overlay().hovered(), OverlayButton::close);
+    press(*close);
+    release(*close);
+    for (int i = 0; i < 4; ++i)
+        tick();
+    move(inside(thumbOf("Start Page")));
+    ASSERT_TRUE(engine->target());
+    EXPECT_FALSE(engine->overlay().hovered());
+}
+
+TEST_F(EngineTest, EscapeThatPassesTheTapLeavesMissionControl) {
+    openMissionControl();
+    EXPECT_TRUE(key(KeyCode::escape, 0));
+    tick();
+    EXPECT_FALSE(engine->active());
+}
+
 TEST_F(EngineTest, ClickingAwayFromTheStripReachesMissionControl) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));

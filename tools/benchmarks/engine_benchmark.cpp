@@ -1,6 +1,10 @@
 #include <benchmark/benchmark.h>
 
+#include <stdlib.h>
+
+#include <filesystem>
 #include <memory>
+#include <string>
 
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_dock.h"
@@ -11,9 +15,21 @@
 namespace vistrel {
 namespace {
 
+// The engine logs; its file log goes under HOME, so point HOME at a folder of its own.
+void keepLogsAwayFromTheUsersHome() {
+    static const bool done = [] {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "vistrel-benchmark-XXXXXX").string();
+        if (mkdtemp(pattern.data()) != nullptr) setenv("HOME", pattern.c_str(), 1);
+        return true;
+    }();
+    (void)done;
+}
+
 // The default scene with Mission Control open and the strip shown over the first thumbnail.
 struct HoveredSession {
     HoveredSession() {
+        keepLogsAwayFromTheUsersHome();
         populateDefaultScene(desktop);
         engine = Engine::make();
         engine->start();

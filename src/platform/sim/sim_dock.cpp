@@ -68,6 +68,9 @@ SimDock::SimDock(SimDesktop& desktop) : desktop_(desktop) {
     };
     desktop_.eventTap().onPassed = [this](const InputEvent& event) {
         if (event.type == EventType::leftMouseUp) clicked(event.location);
+        if (event.type == EventType::keyDown) {
+            keyPosted(static_cast<std::uint16_t>(event.keyCode), true);
+        }
     };
 }
 
