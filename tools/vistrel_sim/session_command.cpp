@@ -220,10 +220,8 @@ bool Session::pressMinimize() {
 }
 
 bool Session::closeMissionControl() {
-    // The engine lets Escape through; the system hands it to the Dock, which leaves.
+    // The engine lets Escape through to the Dock, which leaves Mission Control.
     if (!press(SimDock::escapeKeyCode, 0)) return fail("Escape was swallowed");
-    desktop_.dock().keyPosted(SimDock::escapeKeyCode, true);
-    desktop_.dock().keyPosted(SimDock::escapeKeyCode, false);
     desktop_.executor().advance(MissionControlDetector::openInterval);
     hovered_.reset();
     if (engine_->active()) return fail("the engine still thinks Mission Control is open");
