@@ -14,23 +14,6 @@ Accessibility& accessibility() {
     return platform().accessibility;
 }
 
-// Reads one attribute; nothing on any error.
-std::optional<AXValue> read(const AXElement& element, std::string_view attribute) {
-    AXValue value;
-    if (accessibility().copyAttribute(element, attribute, value) != AXError::success) {
-        return std::nullopt;
-    }
-    return value;
-}
-
-template <typename T>
-std::optional<T> readAs(const AXElement& element, std::string_view attribute) {
-    auto value = read(element, attribute);
-    if (!value) return std::nullopt;
-    if (const T* typed = std::get_if<T>(&*value)) return *typed;
-    return std::nullopt;
-}
-
 bool has(const AXElement& window, std::string_view attribute) {
     return element(window, attribute).has_value();
 }
@@ -58,21 +41,21 @@ AXElement systemWide() {
 }
 
 std::optional<std::string> string(const AXElement& element, std::string_view attribute) {
-    return readAs<std::string>(element, attribute);
+    return value<std::string>(element, attribute);
 }
 
 std::optional<AXElement> element(const AXElement& element, std::string_view attribute) {
-    auto found = readAs<AXElement>(element, attribute);
+    auto found = value<AXElement>(element, attribute);
     if (found && !*found) return std::nullopt;
     return found;
 }
 
 std::vector<AXElement> elements(const AXElement& element, std::string_view attribute) {
-    return readAs<std::vector<AXElement>>(element, attribute).value_or(std::vector<AXElement>{});
+    return value<std::vector<AXElement>>(element, attribute).value_or(std::vector<AXElement>{});
 }
 
 std::optional<Rect> frame(const AXElement& element) {
-    return readAs<Rect>(element, frameAttribute);
+    return value<Rect>(element, frameAttribute);
 }
 
 bool isSettable(const AXElement& element, std::string_view attribute) {

@@ -4,10 +4,13 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "platform/ax_element.h"
+#include "platform/ax_value.h"
 #include "platform/geometry.h"
+#include "platform/platform.h"
 #include "platform/process.h"
 #include "views/overlay_button.h"
 
@@ -47,6 +50,17 @@ struct WindowHit {
 
 // The system-wide element, made once per installed platform with its short time-out.
 AXElement systemWide();
+
+// An attribute's value when it can be read and holds the type asked for; nothing otherwise.
+template <typename T>
+std::optional<T> value(const AXElement& element, std::string_view attribute) {
+    AXValue read;
+    if (platform().accessibility.copyAttribute(element, attribute, read) != AXError::success) {
+        return std::nullopt;
+    }
+    if (const T* typed = std::get_if<T>(&read)) return *typed;
+    return std::nullopt;
+}
 
 std::optional<std::string> string(const AXElement& element, std::string_view attribute);
 std::optional<AXElement> element(const AXElement& element, std::string_view attribute);

@@ -58,8 +58,7 @@ std::optional<OpenWindow> describe(const AXElement& window, const RunningApplica
     }
     const auto frame = WindowMover::frame(window);
     if (!frame || !isListable(*frame)) return std::nullopt;
-    const bool minimized =
-        WindowAttribute::read<bool>(window, WindowAttribute::minimized).value_or(false);
+    const bool minimized = AX::value<bool>(window, AX::minimized).value_or(false);
     if (minimized && !includeMinimized) return std::nullopt;
     return OpenWindow{{window, app.pid},
                       app.bundleIdentifier.value_or(std::string()),
@@ -133,9 +132,9 @@ std::vector<ZOrderEntry> WindowMover::zOrder() {
 
 std::optional<Rect> WindowMover::frame(const AXElement& window) {
     if (auto frame = AX::frame(window)) return frame;
-    const auto origin = WindowAttribute::read<Point>(window, WindowAttribute::position);
+    const auto origin = AX::value<Point>(window, WindowAttribute::position);
     if (!origin) return std::nullopt;
-    const auto size = WindowAttribute::read<Size>(window, WindowAttribute::size);
+    const auto size = AX::value<Size>(window, AX::size);
     if (!size) return std::nullopt;
     return Rect::of(*origin, *size);
 }
@@ -145,7 +144,7 @@ bool WindowMover::setFrame(Pid pid, const AXElement& window, Rect frame) {
     const AXElement app = platform().accessibility.application(pid);
     WindowAttribute::setTimeout(app, WindowAttribute::actionTimeout);
     const bool enhanced =
-        WindowAttribute::read<bool>(app, WindowAttribute::enhancedUserInterface).value_or(false);
+        AX::value<bool>(app, WindowAttribute::enhancedUserInterface).value_or(false);
     if (enhanced) WindowAttribute::write(app, WindowAttribute::enhancedUserInterface, false);
     const bool sized = writeFrame(window, frame);
     if (enhanced) WindowAttribute::write(app, WindowAttribute::enhancedUserInterface, true);
@@ -155,13 +154,13 @@ bool WindowMover::setFrame(Pid pid, const AXElement& window, Rect frame) {
 bool WindowMover::writeFrame(const AXElement& window, Rect frame) {
     if (!isFinite(frame)) return false;
     WindowAttribute::write(window, WindowAttribute::position, frame.origin());
-    const bool sized = WindowAttribute::write(window, WindowAttribute::size, frame.size());
+    const bool sized = WindowAttribute::write(window, AX::size, frame.size());
     WindowAttribute::write(window, WindowAttribute::position, frame.origin());
     return sized;
 }
 
 bool WindowMover::isFullScreen(const AXElement& window) {
-    return WindowAttribute::read<bool>(window, WindowAttribute::fullScreen).value_or(false);
+    return AX::value<bool>(window, AX::fullScreen).value_or(false);
 }
 
 }  // namespace vistrel
