@@ -95,8 +95,14 @@ std::optional<std::string> Settings::buttonTheme() const {
     return d_->object(key(PreferenceKey::buttonTheme)).string();
 }
 
+std::string Settings::maximizeMode() const {
+    return d_->object(key(PreferenceKey::maximizeMode))
+        .string()
+        .value_or(std::string(MaximizeMode::fullScreen));
+}
+
 bool Settings::maximizeFills() const {
-    return d_->object(key(PreferenceKey::maximizeMode)).string() == MaximizeMode::fill;
+    return maximizeMode() == MaximizeMode::fill;
 }
 
 void Settings::publish(std::string_view k, bool value) {

@@ -46,6 +46,8 @@ class Settings {
     bool layoutsDebugGeometry() const;
     // The raw "buttonTheme" text; unknown names are for the theme reader to reject.
     std::optional<std::string> buttonTheme() const;
+    // The "maximizeMode" text, "fullscreen" when absent or not text.
+    std::string maximizeMode() const;
     // True when "maximizeMode" asks to fill the screen rather than enter full screen.
     bool maximizeFills() const;
     bool menuBarIconHidden() const;

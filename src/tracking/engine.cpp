@@ -4,9 +4,7 @@
 
 #include "diagnostics/log.h"
 #include "platform/platform.h"
-#include "settings/preference_key.h"
 #include "settings/settings.h"
-#include "settings/shared.h"
 #include "tracking/ax.h"
 #include "tracking/hotkey.h"
 #include "windows/window_actions.h"
@@ -19,13 +17,6 @@ constexpr std::string_view appeared = "mission control appeared";
 constexpr std::string_view wentAway = "mission control went away";
 constexpr std::string_view listening = "did start listening for events";
 constexpr std::string_view tapFailed = "could not create event tap (permission missing?)";
-
-std::string maximizeMode() {
-    return Shared::store()
-        ->object(std::string(PreferenceKey::maximizeMode))
-        .string()
-        .value_or(std::string(MaximizeMode::fullScreen));
-}
 
 }  // namespace
 
@@ -131,26 +122,27 @@ void Engine::lookUp(Point point) {
     const Pid ownPid = ownPid_;
     const Pid dockPid = dockPid_;
     std::weak_ptr<Engine> weak = weak_from_this();
-    axQueue_->async([weak, point, generation, ownPid, dockPid, mode = maximizeMode()] {
-        std::optional<Target> candidate;
-        if (auto hit = AX::windowAt(point); hit && hit->pid != ownPid && hit->pid != dockPid) {
-            candidate = Target{hit->window, hit->pid, AX::availableButtons(hit->window, mode)};
-        }
-        platform().executor.main().async([weak, point, generation, candidate] {
-            auto engine = weak.lock();
-            if (!engine) return;
-            engine->lookupBusy_ = false;
-            if (auto pending = engine->pendingLookup_) {
-                engine->pendingLookup_.reset();
-                engine->lookUp(*pending);
-                return;
+    axQueue_->async(
+        [weak, point, generation, ownPid, dockPid, mode = Settings::shared().maximizeMode()] {
+            std::optional<Target> candidate;
+            if (auto hit = AX::windowAt(point); hit && hit->pid != ownPid && hit->pid != dockPid) {
+                candidate = Target{hit->window, hit->pid, AX::availableButtons(hit->window, mode)};
             }
-            if (generation == engine->generation_ && engine->active_ &&
-                engine->lastPoint_ == point) {
-                engine->apply(candidate, point);
-            }
+            platform().executor.main().async([weak, point, generation, candidate] {
+                auto engine = weak.lock();
+                if (!engine) return;
+                engine->lookupBusy_ = false;
+                if (auto pending = engine->pendingLookup_) {
+                    engine->pendingLookup_.reset();
+                    engine->lookUp(*pending);
+                    return;
+                }
+                if (generation == engine->generation_ && engine->active_ &&
+                    engine->lastPoint_ == point) {
+                    engine->apply(candidate, point);
+                }
+            });
         });
-    });
 }
 
 std::optional<Rect> Engine::smallestThumbAt(Point point) const {

@@ -8,7 +8,7 @@
 
 #include "diagnostics/log.h"
 #include "platform/platform.h"
-#include "settings/preference_key.h"
+#include "settings/settings.h"
 #include "settings/shared.h"
 #include "tracking/ax.h"
 #include "windows/lazy_queue.h"
@@ -67,7 +67,7 @@ bool pressButton(const AXElement& window, std::string_view button) {
 }
 
 bool close(const AXElement& window) {
-    return pressButton(window, WindowAttribute::closeButton);
+    return pressButton(window, AX::closeButton);
 }
 
 // Hides or force-quits the running application; false when it no longer runs.
@@ -77,19 +77,20 @@ bool onApplication(Pid pid, bool (Workspace::*call)(Pid)) {
 }
 
 bool readsTrue(const AXElement& window, std::string_view attribute) {
-    return WindowAttribute::read<bool>(window, attribute).value_or(false);
+    return AX::value<bool>(window, attribute).value_or(false);
 }
 
 // Whether the full-screen state differs from `was` once the window had time to switch. A
 // window that can no longer be read counts as out of full screen.
 bool changed(const AXElement& window, bool was) {
     sleep(WindowActions::fullScreenSettle);
-    return was != readsTrue(window, WindowAttribute::fullScreen);
+    return was != readsTrue(window, AX::fullScreen);
 }
 
+// Read from a store of its own: this runs on the accessibility queue, and the shared
+// Settings instance belongs to the main thread.
 bool fills() {
-    return Shared::store()->object(std::string(PreferenceKey::maximizeMode)).string() ==
-           MaximizeMode::fill;
+    return Settings(Shared::store()).maximizeFills();
 }
 
 // Mission Control is still on screen when the action starts; full screen is refused
@@ -180,12 +181,12 @@ bool WindowActions::closeAll(Pid pid) {
 
 bool WindowActions::minimize(const AXElement& window) {
     for (int attempt = 0; attempt < minimizeAttempts; ++attempt) {
-        if (!WindowAttribute::write(window, WindowAttribute::minimized, true)) {
+        if (!WindowAttribute::write(window, AX::minimized, true)) {
             // Some applications refuse the attribute but honour their own button.
-            pressButton(window, WindowAttribute::minimizeButton);
+            pressButton(window, AX::minimizeButton);
         }
         sleep(minimizeSettle);
-        if (readsTrue(window, WindowAttribute::minimized)) return true;
+        if (readsTrue(window, AX::minimized)) return true;
         sleep(minimizeRetryPause);
     }
     return false;
@@ -193,13 +194,13 @@ bool WindowActions::minimize(const AXElement& window) {
 
 bool WindowActions::maximize(const AXElement& window) {
     if (fills()) return fillScreen(window);
-    const bool was = readsTrue(window, WindowAttribute::fullScreen);
+    const bool was = readsTrue(window, AX::fullScreen);
     leaveMissionControl();
     sleep(missionControlExit);
-    if (WindowAttribute::write(window, WindowAttribute::fullScreen, !was) && changed(window, was)) {
+    if (WindowAttribute::write(window, AX::fullScreen, !was) && changed(window, was)) {
         return true;
     }
-    return pressButton(window, WindowAttribute::fullScreenButton);
+    return pressButton(window, AX::fullScreenButton);
 }
 
 bool WindowActions::fillScreen(const AXElement& window) {

@@ -124,6 +124,14 @@ TEST_F(SettingsTest, MaximizeModeFillsOnlyForTheExactWordFill) {
     EXPECT_FALSE(settings().maximizeFills());
 }
 
+TEST_F(SettingsTest, MaximizeModeReadsFullscreenWhenAbsentOrNotText) {
+    EXPECT_EQ(settings().maximizeMode(), "fullscreen");
+    store(PreferenceKey::maximizeMode, 1);
+    EXPECT_EQ(settings().maximizeMode(), "fullscreen");
+    store(PreferenceKey::maximizeMode, "fill");
+    EXPECT_EQ(settings().maximizeMode(), "fill");
+}
+
 TEST_F(SettingsTest, PreferencesAreReadAtTheMomentOfUse) {
     EXPECT_EQ(settings().buttonSize(), 25);
     store(PreferenceKey::buttonSizeOption, "small");
