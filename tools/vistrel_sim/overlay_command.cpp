@@ -9,6 +9,7 @@
 #include "settings/shared.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
+#include "tracking/engine.h"
 #include "tracking/overlay_layout.h"
 #include "views/overlay_controller.h"
 
@@ -16,8 +17,6 @@ namespace vistrel {
 
 namespace {
 
-// The gap between neighbouring buttons, as the engine lays out the strip.
-constexpr double buttonGap = 4;
 constexpr std::string_view pictureName = "overlay.png";
 
 // Over the hovered button, towards its lower right, so the arrow leaves its glyph in view.
@@ -50,7 +49,7 @@ int renderOverlay(SimCommandContext& context) {
 
     const Settings& settings = Settings::shared();
     const OverlayLayout layout = OverlayLayout::make(hovered->frame, settings.buttonSize(),
-                                                     settings.enabledButtons(), buttonGap);
+                                                     settings.enabledButtons(), Engine::buttonGap);
     OverlayController overlay;
     overlay.show(layout);
     overlay.setHovered(OverlayButton::close);

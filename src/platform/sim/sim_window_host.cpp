@@ -66,11 +66,8 @@ std::unique_ptr<AgentWindow> SimWindowHost::makeWindow() {
 }
 
 std::vector<const SimAgentWindow*> SimWindowHost::windows() const {
-    std::vector<const SimAgentWindow*> live;
-    for (const auto& weak : tracked_) {
-        if (auto tracked = weak.lock()) live.push_back(&tracked->window);
-    }
-    return live;
+    const auto live = const_cast<SimWindowHost*>(this)->windows();
+    return {live.begin(), live.end()};
 }
 
 std::vector<SimAgentWindow*> SimWindowHost::windows() {
