@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -19,6 +20,12 @@ struct Color {
     // an integer parser with radix 16 reads them. Anything else gives nothing.
     static std::optional<Color> fromHex(std::string_view text);
 
+    // An opaque colour from 0xRRGGBB.
+    static constexpr Color fromRGB(std::uint32_t rgb) {
+        constexpr double channelMax = 255;
+        return {((rgb >> 16) & 0xFF) / channelMax, ((rgb >> 8) & 0xFF) / channelMax,
+                (rgb & 0xFF) / channelMax, 1};
+    }
     static constexpr Color white() { return {1, 1, 1, 1}; }
     static constexpr Color black() { return {0, 0, 0, 1}; }
     static constexpr Color clear() { return {0, 0, 0, 0}; }

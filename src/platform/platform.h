@@ -9,6 +9,7 @@
 #include "platform/login_item.h"
 #include "platform/screen_list.h"
 #include "platform/system_log.h"
+#include "platform/text_measurer.h"
 #include "platform/window_host.h"
 #include "platform/window_server.h"
 #include "platform/workspace.h"
@@ -31,6 +32,7 @@ struct Platform {
     SystemLog& systemLog;
     LoginItem& loginItem;
     WindowHost& windowHost;
+    TextMeasurer& text;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

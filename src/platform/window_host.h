@@ -33,8 +33,8 @@ inline constexpr std::uint64_t agentOverlay =
 
 // One borderless, transparent, shadowless window of the agent's own (an NSWindow whose
 // content view replays a display list with Core Graphics), buffered, not released when
-// closed, created with an empty frame and hidden. Frames are in AppKit's global
-// coordinates: origin at the bottom-left of the primary display.
+// closed, created with an empty frame and hidden; deferred or not as its maker asks. Frames are in
+// AppKit's global coordinates: origin at the bottom-left of the primary display.
 class AgentWindow {
   public:
     virtual ~AgentWindow() = default;
@@ -58,13 +58,20 @@ class AgentWindow {
     virtual bool isVisible() const = 0;
     // NSWindow.isOnActiveSpace.
     virtual bool isOnActiveSpace() const = 0;
+    // Puts frosted glass behind the content: an NSVisualEffectView with the heads-up-display
+    // material, blending behind the window, always active, in the dark appearance, its
+    // corners masked to `cornerRadius`. The content is drawn over the glass.
+    virtual void setGlass(double cornerRadius) = 0;
 };
+
+// When AppKit creates the window's device: at once, or deferred until it is first shown.
+enum class WindowDeferral { deferred, immediate };
 
 // Makes the agent's windows.
 class WindowHost {
   public:
     virtual ~WindowHost() = default;
-    virtual std::unique_ptr<AgentWindow> makeWindow() = 0;
+    virtual std::unique_ptr<AgentWindow> makeWindow(WindowDeferral deferral) = 0;
 };
 
 }  // namespace vistrel

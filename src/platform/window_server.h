@@ -40,6 +40,9 @@ class WindowServer {
     // CGEventCreateKeyboardEvent(nullptr, keyCode, down) posted with CGEventPost to the HID
     // event tap location. False when the event could not be made.
     virtual bool postKey(std::uint16_t keyCode, bool down) = 0;
+    // Where the pointer is now, in accessibility coordinates: the location of a fresh event
+    // (CGEventCreate(nullptr), CGEventGetLocation).
+    virtual Point pointerLocation() = 0;
 };
 
 }  // namespace vistrel

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/canvas.h"
 #include "platform/process.h"
 
 namespace vistrel {
@@ -61,6 +63,15 @@ class Workspace {
     // openApplication(at:configuration:completionHandler:). The completion runs on the main queue.
     virtual void openApplication(const std::string& url, const OpenConfiguration& configuration,
                                  OpenCompletion completion) = 0;
+    // Opens the application like openApplication, then waits up to `timeout` seconds for
+    // the open to complete: whether it did, successfully. Blocks the calling thread; never
+    // called on the main thread.
+    virtual bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
+                                   double timeout) = 0;
+    // The application's icon (NSWorkspace.icon(forFile:) of its location) as a square bitmap
+    // of `pixels` per side; nothing when it is not installed.
+    virtual std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,
+                                                         int pixels) = 0;
     // NSWorkspace.open(URL): false when the text is not a URL or nothing opened it.
     virtual bool openURL(const std::string& url) = 0;
     // The agent's own process identifier (ProcessInfo.processIdentifier).

@@ -54,7 +54,7 @@ OverlayController::OverlayController() : window_(makeWindow()) {
 }
 
 std::unique_ptr<AgentWindow> OverlayController::makeWindow() {
-    auto window = platform().windowHost.makeWindow();
+    auto window = platform().windowHost.makeWindow(WindowDeferral::deferred);
     window->setLevel(AgentWindowLevel::overlay);
     window->setCollectionBehavior(WindowCollectionBehavior::agentOverlay);
     window->setIgnoresMouseEvents(true);

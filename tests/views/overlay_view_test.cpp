@@ -182,7 +182,7 @@ TEST(OverlayView, DrawsUnflippedSoTheArrowsRiseToTheUpperRight) {
 
 TEST(OverlayView, ConfigureHandsTheAttachedWindowAFreshDrawing) {
     SimWindowHost host;
-    auto window = host.makeWindow();
+    auto window = host.makeWindow(WindowDeferral::deferred);
     OverlayView view;
     view.attach(window.get());
     const SimAgentWindow& sim = *host.windows().front();
@@ -194,7 +194,7 @@ TEST(OverlayView, ConfigureHandsTheAttachedWindowAFreshDrawing) {
 
 TEST(OverlayView, AHoverChangeRedrawsTheAttachedWindow) {
     SimWindowHost host;
-    auto window = host.makeWindow();
+    auto window = host.makeWindow(WindowDeferral::deferred);
     OverlayView view;
     view.attach(window.get());
     view.configure(strip(Theme::classic));
@@ -208,7 +208,7 @@ TEST(OverlayView, AHoverChangeRedrawsTheAttachedWindow) {
 
 TEST(OverlayView, ADetachedViewLeavesItsOldWindowAlone) {
     SimWindowHost host;
-    auto window = host.makeWindow();
+    auto window = host.makeWindow(WindowDeferral::deferred);
     OverlayView view;
     view.attach(window.get());
     view.attach(nullptr);

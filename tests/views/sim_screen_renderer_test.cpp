@@ -27,7 +27,7 @@ class SimScreenRendererTest : public ::testing::Test {
   protected:
     // A window of the agent showing one colour, frame in AppKit coordinates.
     std::unique_ptr<AgentWindow> agentWindow(Rect frame, Color color, int level) {
-        auto window = desktop.windowHost().makeWindow();
+        auto window = desktop.windowHost().makeWindow(WindowDeferral::deferred);
         window->setFrame(frame, true);
         window->setLevel(level);
         window->setContent(solid(color, frame.size()));
@@ -63,7 +63,7 @@ TEST_F(SimScreenRendererTest, AgentWindowsAreDrawnAtTheirAppKitFrameFlippedOntoT
 }
 
 TEST_F(SimScreenRendererTest, AgentWindowContentIsClippedToItsFrame) {
-    auto window = desktop.windowHost().makeWindow();
+    auto window = desktop.windowHost().makeWindow(WindowDeferral::deferred);
     window->setFrame({50, 100, 40, 40}, true);
     window->setContent(solid(Color{1, 0, 0, 1}, {400, 400}));
     window->orderFrontRegardless();

@@ -23,7 +23,7 @@ class RecordingAccessibility : public Accessibility {
         : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
                                     inner.screens,   inner.defaults,     inner.eventTap,
                                     inner.executor,  inner.clock,        inner.systemLog,
-                                    inner.loginItem, inner.windowHost} {
+                                    inner.loginItem, inner.windowHost,   inner.text} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

@@ -73,7 +73,8 @@ class EchoingPlatform {
                     .clock = desktop.platform().clock,
                     .systemLog = log,
                     .loginItem = desktop.platform().loginItem,
-                    .windowHost = desktop.platform().windowHost} {
+                    .windowHost = desktop.platform().windowHost,
+                    .text = desktop.platform().text} {
         installPlatform(&platform_);
     }
     ~EchoingPlatform() { installPlatform(nullptr); }

@@ -1,4 +1,5 @@
 #include "platform/mac/display_list_view.h"
+#include "platform/mac/mac_text.h"
 
 #import <CoreText/CoreText.h>
 
@@ -36,30 +37,6 @@ CFOwned<CGColorRef> cgColor(Color color) {
     return CFOwned<CGColorRef>(CGColorCreateSRGB(color.red, color.green, color.blue, color.alpha));
 }
 
-NSFontWeight nsWeight(FontWeight weight) {
-    switch (weight) {
-        case FontWeight::regular:
-            return NSFontWeightRegular;
-        case FontWeight::medium:
-            return NSFontWeightMedium;
-        case FontWeight::semibold:
-            return NSFontWeightSemibold;
-        case FontWeight::bold:
-            return NSFontWeightBold;
-    }
-    return NSFontWeightRegular;
-}
-
-// A bundled font by PostScript name (registered for the process at launch); the system
-// font of the same size when it is not there.
-NSFont* nsFont(const Font& font) {
-    if (!font.name.empty()) {
-        NSString* name = [NSString stringWithUTF8String:font.name.c_str()];
-        if (NSFont* named = [NSFont fontWithName:name size:font.size]) return named;
-    }
-    return [NSFont systemFontOfSize:font.size weight:nsWeight(font.weight)];
-}
-
 // Replays canvas calls into a Core Graphics context.
 class CoreGraphicsCanvas : public Canvas {
   public:
@@ -92,18 +69,8 @@ class CoreGraphicsCanvas : public Canvas {
 
     void drawText(const TextRun& run, Point baseline) override {
         if (run.text.empty()) return;
-        NSString* text = [NSString stringWithUTF8String:run.text.c_str()];
-        if (text == nil) return;  // not UTF-8
-        const auto color = cgColor(run.color);
-        NSDictionary* attributes = @{
-            (__bridge NSString*)kCTFontAttributeName : nsFont(run.font),
-            (__bridge NSString*)kCTForegroundColorAttributeName : (__bridge id)color.get(),
-            (__bridge NSString*)kCTKernAttributeName : @(run.kern),
-        };
-        NSAttributedString* string = [[NSAttributedString alloc] initWithString:text
-                                                                     attributes:attributes];
-        CFOwned<CTLineRef> line(
-            CTLineCreateWithAttributedString((__bridge CFAttributedStringRef)string));
+        const CFOwned<CTLineRef> line = makeTextLine(run);
+        if (!line) return;  // not UTF-8
         CGContextSaveGState(cg_);
         // Glyphs are drawn y-up; in a flipped view the text matrix turns them upright.
         CGContextSetTextMatrix(

@@ -6,6 +6,7 @@
 #include "platform/mac/mac_executor.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_system_log.h"
+#include "platform/mac/mac_text.h"
 #include "platform/mac/mac_window_host.h"
 #include "platform/mac/mac_window_server.h"
 #include "platform/mac/mac_workspace.h"
@@ -16,16 +17,16 @@ namespace vistrel {
 // The real machine: every platform interface over Apple's frameworks, for the life of
 // the process.
 class MacPlatform {
-public:
+  public:
     MacPlatform()
-        : platform_{accessibility_, windowServer_, workspace_, screens_,  defaults_,   eventTap_,
-                    executor_,      clock_,        systemLog_, loginItem_, windowHost_} {}
+        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,   eventTap_,
+                    executor_,      clock_,        systemLog_, loginItem_, windowHost_, text_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
     Platform& platform() { return platform_; }
 
-private:
+  private:
     MacAccessibility accessibility_;
     MacWindowServer windowServer_;
     MacWorkspace workspace_;
@@ -37,6 +38,7 @@ private:
     MacSystemLog systemLog_;
     MacLoginItem loginItem_;
     MacWindowHost windowHost_;
+    MacTextMeasurer text_;
     Platform platform_;
 };
 

@@ -16,14 +16,32 @@ Rect rectOf(NSRect rect) {
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
 }
 
+// A stretchable black rounded rectangle: the visual-effect view shows its material only
+// where the mask is opaque.
+NSImage* roundedMask(double radius) {
+    const CGFloat edge = 2 * radius + 1;
+    NSImage* mask = [NSImage imageWithSize:NSMakeSize(edge, edge)
+                                   flipped:NO
+                            drawingHandler:^BOOL(NSRect rect) {
+                              [NSColor.blackColor setFill];
+                              [[NSBezierPath bezierPathWithRoundedRect:rect
+                                                               xRadius:radius
+                                                               yRadius:radius] fill];
+                              return YES;
+                            }];
+    mask.capInsets = NSEdgeInsetsMake(radius, radius, radius, radius);
+    mask.resizingMode = NSImageResizingModeStretch;
+    return mask;
+}
+
 // One NSWindow with its display-list view, kept alive by ARC for as long as this object.
 class MacAgentWindow : public AgentWindow {
   public:
-    MacAgentWindow() {
+    explicit MacAgentWindow(WindowDeferral deferral) {
         window_ = [[NSWindow alloc] initWithContentRect:NSZeroRect
                                               styleMask:NSWindowStyleMaskBorderless
                                                 backing:NSBackingStoreBuffered
-                                                  defer:YES];
+                                                  defer:deferral == WindowDeferral::deferred];
         window_.releasedWhenClosed = NO;
         window_.opaque = NO;
         window_.backgroundColor = NSColor.clearColor;
@@ -75,6 +93,22 @@ class MacAgentWindow : public AgentWindow {
     bool isVisible() const override { return window_.visible == YES; }
     bool isOnActiveSpace() const override { return window_.onActiveSpace == YES; }
 
+    // The glass becomes the content view and the drawing view sits on it, resizing with it.
+    void setGlass(double cornerRadius) override {
+        NSVisualEffectView* glass = [[NSVisualEffectView alloc] initWithFrame:NSZeroRect];
+        glass.material = NSVisualEffectMaterialHUDWindow;
+        glass.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+        glass.state = NSVisualEffectStateActive;
+        glass.appearance = [NSAppearance appearanceNamed:NSAppearanceNameVibrantDark];
+        glass.maskImage = roundedMask(cornerRadius);
+        [view_ removeFromSuperview];
+        view_.frame = glass.bounds;
+        view_.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+        view_.wantsLayer = YES;
+        [glass addSubview:view_];
+        window_.contentView = glass;
+    }
+
   private:
     NSWindow* window_;
     VistrelDisplayListView* view_;
@@ -82,8 +116,8 @@ class MacAgentWindow : public AgentWindow {
 
 }  // namespace
 
-std::unique_ptr<AgentWindow> MacWindowHost::makeWindow() {
-    return std::make_unique<MacAgentWindow>();
+std::unique_ptr<AgentWindow> MacWindowHost::makeWindow(WindowDeferral deferral) {
+    return std::make_unique<MacAgentWindow>(deferral);
 }
 
 }  // namespace vistrel

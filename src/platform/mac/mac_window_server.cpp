@@ -84,4 +84,13 @@ bool MacWindowServer::postKey(std::uint16_t keyCode, bool down) {
     return true;
 }
 
+// A new event carries the pointer's current location, already in the global top-left
+// coordinates accessibility uses.
+Point MacWindowServer::pointerLocation() {
+    const CFOwned<CGEventRef> event(CGEventCreate(nullptr));
+    if (!event) return {};
+    const CGPoint location = CGEventGetLocation(event.get());
+    return {location.x, location.y};
+}
+
 }  // namespace vistrel

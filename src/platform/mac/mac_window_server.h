@@ -10,6 +10,7 @@ class MacWindowServer : public WindowServer {
     std::optional<std::vector<WindowDescription>> windowList(std::uint32_t options) override;
     std::optional<std::string> displayUUID(std::uint32_t displayID) override;
     bool postKey(std::uint16_t keyCode, bool down) override;
+    Point pointerLocation() override;
 };
 
 }  // namespace vistrel

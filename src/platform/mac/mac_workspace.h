@@ -18,6 +18,10 @@ class MacWorkspace : public Workspace {
     std::optional<std::string> applicationURL(const std::string& bundleIdentifier) override;
     void openApplication(const std::string& url, const OpenConfiguration& configuration,
                          OpenCompletion completion) override;
+    bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
+                           double timeout) override;
+    std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,
+                                                 int pixels) override;
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;

@@ -79,8 +79,9 @@ std::optional<std::string> MacWorkspace::applicationURL(const std::string& bundl
     return url == nil ? std::nullopt : text(url.path);
 }
 
-void MacWorkspace::openApplication(const std::string& url, const OpenConfiguration& configuration,
-                                   OpenCompletion completion) {
+namespace {
+
+NSWorkspaceOpenConfiguration* nsConfiguration(const OpenConfiguration& configuration) {
     NSWorkspaceOpenConfiguration* open = [NSWorkspaceOpenConfiguration configuration];
     open.activates = configuration.activates;
     open.hides = configuration.hides;
@@ -89,6 +90,14 @@ void MacWorkspace::openApplication(const std::string& url, const OpenConfigurati
     for (const std::string& argument : configuration.arguments)
         [arguments addObject:ns(argument)];
     open.arguments = arguments;
+    return open;
+}
+
+}  // namespace
+
+void MacWorkspace::openApplication(const std::string& url, const OpenConfiguration& configuration,
+                                   OpenCompletion completion) {
+    NSWorkspaceOpenConfiguration* open = nsConfiguration(configuration);
     [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
                                         configuration:open
                                     completionHandler:^(NSRunningApplication* app, NSError* error) {
@@ -99,6 +108,55 @@ void MacWorkspace::openApplication(const std::string& url, const OpenConfigurati
                                         completion(ok, reason);
                                       });
                                     }];
+}
+
+// The completion handler runs on a concurrent queue of the workspace's, so waiting for it
+// here cannot hold it up.
+bool MacWorkspace::launchApplication(const std::string& url, const OpenConfiguration& configuration,
+                                     double timeout) {
+    dispatch_semaphore_t done = dispatch_semaphore_create(0);
+    __block bool launched = false;
+    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
+                                        configuration:nsConfiguration(configuration)
+                                    completionHandler:^(NSRunningApplication* app, NSError* error) {
+                                      launched = app != nil && error == nil;
+                                      dispatch_semaphore_signal(done);
+                                    }];
+    const auto wait = static_cast<int64_t>(timeout * NSEC_PER_SEC);
+    return dispatch_semaphore_wait(done, dispatch_time(DISPATCH_TIME_NOW, wait)) == 0 && launched;
+}
+
+// The icon drawn into a bitmap of our own layout: 8-bit RGBA, not premultiplied, rows from
+// the top, which is what the canvas takes.
+std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bundleIdentifier,
+                                                           int pixels) {
+    const auto location = applicationURL(bundleIdentifier);
+    if (!location || pixels <= 0) return nullptr;
+    NSImage* icon = [NSWorkspace.sharedWorkspace iconForFile:ns(*location)];
+    NSBitmapImageRep* bitmap =
+        [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
+                                                pixelsWide:pixels
+                                                pixelsHigh:pixels
+                                             bitsPerSample:8
+                                           samplesPerPixel:4
+                                                  hasAlpha:YES
+                                                  isPlanar:NO
+                                            colorSpaceName:NSDeviceRGBColorSpace
+                                              bitmapFormat:NSBitmapFormatAlphaNonpremultiplied
+                                               bytesPerRow:pixels * 4
+                                              bitsPerPixel:32];
+    if (bitmap == nil) return nullptr;
+    NSGraphicsContext* context = [NSGraphicsContext graphicsContextWithBitmapImageRep:bitmap];
+    [NSGraphicsContext saveGraphicsState];
+    NSGraphicsContext.currentContext = context;
+    [icon drawInRect:NSMakeRect(0, 0, pixels, pixels)];
+    [NSGraphicsContext restoreGraphicsState];
+    auto image = std::make_shared<Image>();
+    image->width = pixels;
+    image->height = pixels;
+    const unsigned char* data = bitmap.bitmapData;
+    image->rgba.assign(data, data + static_cast<std::size_t>(pixels) * pixels * 4);
+    return image;
 }
 
 bool MacWorkspace::openURL(const std::string& url) {

@@ -220,6 +220,7 @@ AXError SimAccessibility::copyAttribute(const AXElement& element, std::string_vi
 
 AXError SimAccessibility::readApplication(Pid pid, std::string_view attribute, AXValue& value) {
     if (onApplicationRead) onApplicationRead(pid);
+    desktop_.installations().settle();
     const SimApplication* app = desktop_.application(pid);
     std::vector<AXElement> windows;
     for (SimWindowId id : desktop_.windowsOf(pid))

@@ -13,9 +13,11 @@
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_model.h"
 #include "platform/sim/sim_system_log.h"
+#include "platform/sim/sim_text_measurer.h"
 #include "platform/sim/sim_window_host.h"
 #include "platform/sim/sim_window_server.h"
 #include "platform/sim/sim_workspace.h"
@@ -54,6 +56,9 @@ class SimDesktop {
     SimWindowHost& windowHost() { return windowHost_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
+
+    // Applications on the simulated disk, and their launches.
+    SimInstallations& installations() { return installations_; }
 
     // Applications, in the workspace's order.
     Pid addApplication(SimApplication application);
@@ -101,9 +106,11 @@ class SimDesktop {
     SimSystemLog systemLog_;
     SimLoginItem loginItem_;
     SimWindowHost windowHost_;
+    SimTextMeasurer text_;
     SimScreenList screenList_;
     Platform platform_;
     SimDock dock_;
+    SimInstallations installations_{*this};
 
     std::vector<SimApplication> applications_;
     std::vector<SimWindow> windows_;

@@ -8,6 +8,11 @@ constexpr unsigned maskBits = 64;
 bool isDisableNotice(EventType type) {
     return type == EventType::tapDisabledByTimeout || type == EventType::tapDisabledByUserInput;
 }
+
+bool isMouseEvent(EventType type) {
+    return type == EventType::leftMouseDown || type == EventType::leftMouseUp ||
+           type == EventType::mouseMoved || type == EventType::leftMouseDragged;
+}
 }  // namespace
 
 bool SimEventTapPort::create(std::uint64_t mask, Handler handler) {
@@ -42,6 +47,7 @@ void SimEventTapPort::invalidate() {
 }
 
 bool SimEventTapPort::deliver(const InputEvent& event) {
+    if (isMouseEvent(event.type)) pointer_ = event.location;
     const bool passed = route(event);
     deliveries_.push_back({event, passed});
     if (passed && onPassed) onPassed(event);

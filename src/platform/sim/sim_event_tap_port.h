@@ -23,6 +23,11 @@ class SimEventTapPort : public EventTapPort {
     // two disable notices always reach a tap), otherwise straight on.
     bool deliver(const InputEvent& event);
 
+    // Where the pointer is: the location of the last mouse event delivered, or where a test
+    // put it without an event.
+    Point pointer() const { return pointer_; }
+    void setPointer(Point location) { pointer_ = location; }
+
     // Faults: tap creation or its run-loop source fails; the system invalidates the port.
     bool creationFails = false;
     bool sourceFails = false;
@@ -52,6 +57,7 @@ class SimEventTapPort : public EventTapPort {
 
     Handler handler_;
     std::vector<Delivery> deliveries_;
+    Point pointer_;
     std::uint64_t mask_ = 0;
     bool exists_ = false;
     bool valid_ = false;

@@ -20,6 +20,7 @@ struct SceneApplication {
     const char* bundleIdentifier;
     const char* name;
     const char* path;
+    Color iconColor;
     std::vector<SceneWindow> windows;  // back to front
 };
 
@@ -29,22 +30,27 @@ const std::vector<SceneApplication>& sceneApplications() {
         {"com.apple.finder",
          "Finder",
          "/System/Library/CoreServices/Finder.app",
+         Color::fromRGB(0x3478F6),
          {{"Applications", {40, 180, 720, 440}}, {"Downloads", {880, 470, 520, 330}}}},
         {"com.apple.mail",
          "Mail",
          "/System/Applications/Mail.app",
+         Color::fromRGB(0x5AC8FA),
          {{"Inbox – iCloud", {300, 70, 1000, 640}}}},
         {"com.apple.Terminal",
          "Terminal",
          "/System/Applications/Utilities/Terminal.app",
+         Color::fromRGB(0x8E8E93),
          {{"vistrel — zsh — 80×24", {110, 430, 585, 368}}}},
         {"com.apple.Notes",
          "Notes",
          "/System/Applications/Notes.app",
+         Color::fromRGB(0xF7C631),
          {{"Notes", {760, 110, 640, 480}}}},
         {"com.apple.Safari",
          "Safari",
          "/Applications/Safari.app",
+         Color::fromRGB(0x34C759),
          {{"Start Page", {80, 50, 1060, 720}}}},
     };
     return applications;
@@ -66,13 +72,16 @@ void populateDefaultScene(SimDesktop& desktop) {
         application.bundleIdentifier = scene.bundleIdentifier;
         application.name = scene.name;
         const Pid pid = desktop.addApplication(std::move(application));
-        desktop.workspace().installed[scene.bundleIdentifier] = scene.path;
+        SimInstalledApplication installed{
+            scene.bundleIdentifier, scene.name, scene.path, scene.iconColor, {}};
         for (const SceneWindow& window : scene.windows) {
             SimWindow made;
             made.title = window.title;
             made.frame = window.frame;
+            installed.windows.push_back(made);
             desktop.addWindow(pid, std::move(made));
         }
+        desktop.installations().install(std::move(installed));
     }
 }
 

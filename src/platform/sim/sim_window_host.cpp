@@ -50,6 +50,7 @@ class OwnedWindow : public AgentWindow {
     void orderOut() override { window_->orderOut(); }
     bool isVisible() const override { return window_->isVisible(); }
     bool isOnActiveSpace() const override { return window_->isOnActiveSpace(); }
+    void setGlass(double cornerRadius) override { window_->setGlass(cornerRadius); }
 
   private:
     std::shared_ptr<SimAgentWindow> window_;
@@ -57,8 +58,9 @@ class OwnedWindow : public AgentWindow {
 
 }  // namespace
 
-std::unique_ptr<AgentWindow> SimWindowHost::makeWindow() {
+std::unique_ptr<AgentWindow> SimWindowHost::makeWindow(WindowDeferral deferral) {
     auto tracked = std::make_shared<Tracked>();
+    tracked->window.setDeferral(deferral);
     tracked_.push_back(tracked);
     ++windowsMade_;
     return std::make_unique<OwnedWindow>(

@@ -37,4 +37,8 @@ bool SimWindowServer::postKey(std::uint16_t keyCode, bool down) {
     return true;
 }
 
+Point SimWindowServer::pointerLocation() {
+    return desktop_.eventTap().pointer();
+}
+
 }  // namespace vistrel

@@ -20,6 +20,7 @@ class SimWindowServer : public WindowServer {
     std::optional<std::vector<WindowDescription>> windowList(std::uint32_t options) override;
     std::optional<std::string> displayUUID(std::uint32_t displayID) override;
     bool postKey(std::uint16_t keyCode, bool down) override;
+    Point pointerLocation() override;
 
     // Descriptions listed in front of every application window.
     std::vector<WindowDescription> frontWindows;

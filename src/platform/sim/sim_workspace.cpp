@@ -1,6 +1,9 @@
 #include "platform/sim/sim_workspace.h"
 
+#include <algorithm>
+
 #include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_icon.h"
 
 namespace vistrel {
 
@@ -18,6 +21,7 @@ RunningApplication describe(const SimApplication& app) {
 }  // namespace
 
 std::vector<RunningApplication> SimWorkspace::runningApplications() {
+    desktop_.installations().settle();
     std::vector<RunningApplication> running;
     for (const SimApplication& app : desktop_.applications()) {
         if (!app.terminated) running.push_back(describe(app));
@@ -26,6 +30,7 @@ std::vector<RunningApplication> SimWorkspace::runningApplications() {
 }
 
 std::optional<RunningApplication> SimWorkspace::application(Pid pid) {
+    desktop_.installations().settle();
     const SimApplication* app = desktop_.application(pid);
     if (app == nullptr || app->terminated) return std::nullopt;
     return describe(*app);
@@ -78,9 +83,35 @@ void SimWorkspace::openApplication(const std::string& url, const OpenConfigurati
         launcher(url, configuration, std::move(completion));
         return;
     }
-    desktop_.executor().main().async([completion = std::move(completion)] {
-        completion(false, "The application cannot be opened.");
-    });
+    const auto runsAt = desktop_.installations().launch(url);
+    if (!runsAt) {
+        desktop_.executor().main().async([completion = std::move(completion)] {
+            completion(false, "The application cannot be opened.");
+        });
+        return;
+    }
+    const double delay = std::max(0.0, *runsAt - desktop_.clock().now());
+    desktop_.executor().main().after(
+        delay, [completion = std::move(completion)] { completion(true, std::string()); });
+}
+
+// The wait is virtual: the calling queue's clock moves on to the launch or to the time-out.
+bool SimWorkspace::launchApplication(const std::string& url, const OpenConfiguration& configuration,
+                                     double timeout) {
+    launchRequests.emplace_back(url, configuration);
+    const auto runsAt = desktop_.installations().launch(url);
+    if (!runsAt) return false;
+    const double wait = *runsAt - desktop_.clock().now();
+    desktop_.clock().sleep(std::min(wait, timeout));
+    desktop_.installations().settle();
+    return wait <= timeout;
+}
+
+std::shared_ptr<const Image> SimWorkspace::applicationIcon(const std::string& bundleIdentifier,
+                                                           int pixels) {
+    const SimInstalledApplication* installed = desktop_.installations().find(bundleIdentifier);
+    if (installed == nullptr) return nullptr;
+    return simApplicationIcon(installed->iconColor, pixels);
 }
 
 bool SimWorkspace::openURL(const std::string& url) {

@@ -27,6 +27,10 @@ class SimWorkspace : public Workspace {
     std::optional<std::string> applicationURL(const std::string& bundleIdentifier) override;
     void openApplication(const std::string& url, const OpenConfiguration& configuration,
                          OpenCompletion completion) override;
+    bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
+                           double timeout) override;
+    std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,
+                                                 int pixels) override;
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
@@ -37,6 +41,8 @@ class SimWorkspace : public Workspace {
     std::function<void(const std::string& url, const OpenConfiguration&, OpenCompletion)> launcher;
     std::vector<std::string> openedURLs;
     std::vector<Pid> activations;
+    // Every launch asked for and waited on, with its configuration.
+    std::vector<std::pair<std::string, OpenConfiguration>> launchRequests;
 
   private:
     SimDesktop& desktop_;
