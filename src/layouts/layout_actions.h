@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "layouts/saved_layout.h"
+#include "layouts/snap.h"
+#include "layouts/unit_rect.h"
+#include "platform/geometry.h"
+#include "windows/screen_info.h"
+#include "windows/window_ref.h"
+
+namespace vistrel {
+
+// The window work of the Layouts feature: capturing the open windows as a layout,
+// restoring a saved one (launching its applications when allowed), arranging picked windows
+// into slots, snapping one window, and leaving Mission Control while raising the windows
+// just placed. Each operation reads the settings and the screens on the calling (main)
+// thread, works on the layouts queue and calls its completion on the main thread.
+struct LayoutActions {
+    // One window and the slot it goes into.
+    struct Placement {
+        WindowRef ref;
+        UnitRect rect;
+    };
+    // Where a snap put a window.
+    struct Snapped {
+        UnitRect unit;
+        Rect frame;
+
+        friend bool operator==(const Snapped&, const Snapped&) = default;
+    };
+
+    using CaptureDone = std::function<void(std::optional<SavedLayout>)>;
+    using RestoreDone = std::function<void(std::vector<WindowRef>)>;
+    using ArrangeDone = std::function<void(std::optional<SavedLayout>)>;
+    using SnapDone = std::function<void(std::optional<Snapped>)>;
+
+    // Mission Control gets this long to close after Escape before the windows are raised;
+    // it is checked again after the longer pause and sent Escape once more if still open.
+    static constexpr double escapeSettle = 0.35;
+    static constexpr double escapeRecheck = 0.8;
+    // Pause between raising one window and the next.
+    static constexpr double raisePause = 0.03;
+    static constexpr float frontmostTimeout = 0.5f;
+    static constexpr std::uint16_t escapeKeyCode = 53;
+
+    // The visible windows as a new layout; none when there are none.
+    static void captureCurrent(CaptureDone done);
+    // Moves the layout's windows back; completes with the windows moved.
+    static void restore(const SavedLayout& layout, RestoreDone done);
+    // Places each window into its slot on `screen`; completes with the layout they form.
+    static void arrange(std::vector<Placement> placements, const ScreenInfo& screen,
+                        ArrangeDone done);
+    // Moves the window where the key sends it; none when nothing moved.
+    static void snap(const WindowRef& window, SnapKey key, SnapDone done);
+
+    // Closes Mission Control with Escape and raises the windows, the first in front. Runs
+    // on the layouts queue.
+    static void leaveMissionControl(std::vector<WindowRef> raising);
+    // Raises the windows from the last to the first, each with its application brought
+    // forward, pausing between them. Blocks; layouts queue only.
+    static void raise(const std::vector<WindowRef>& windows);
+
+    // The "layouts.gap" setting clamped to 0...40 points.
+    static double gap();
+};
+
+}  // namespace vistrel
