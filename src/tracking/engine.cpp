@@ -3,6 +3,7 @@
 #include <string>
 
 #include "diagnostics/log.h"
+#include "layouts/layouts_controller.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
 #include "tracking/ax.h"
@@ -21,6 +22,10 @@ constexpr std::string_view tapFailed = "could not create event tap (permission m
 }  // namespace
 
 struct Engine::Private {};
+
+std::shared_ptr<Engine> Engine::make() {
+    return make(std::make_unique<LayoutsController>());
+}
 
 std::shared_ptr<Engine> Engine::make(std::unique_ptr<EngineLayouts> layouts) {
     return std::make_shared<Engine>(Private{}, std::move(layouts));

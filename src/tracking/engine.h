@@ -42,9 +42,10 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
         std::set<OverlayButton> buttons;
     };
 
-    // Made shared, because the tap, the detector and the queue jobs hold it weakly.
-    static std::shared_ptr<Engine> make(
-        std::unique_ptr<EngineLayouts> layouts = std::make_unique<ClosedLayouts>());
+    // Made shared, because the tap, the detector and the queue jobs hold it weakly. Without
+    // an argument it runs the Layouts feature's own controller.
+    static std::shared_ptr<Engine> make();
+    static std::shared_ptr<Engine> make(std::unique_ptr<EngineLayouts> layouts);
 
     // Hooks the engine to its tap, its detector and the layouts, and arms the first tick.
     void start();

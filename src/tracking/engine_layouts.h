@@ -63,30 +63,4 @@ class EngineLayouts {
     virtual void snap(const AXElement& window, Pid pid, SnapKey key) = 0;
 };
 
-// The Layouts feature before it is built, or while it is switched off: never open, never
-// takes the pointer, has nothing saved.
-class ClosedLayouts : public EngineLayouts {
-  public:
-    void missionControlOpened() override {}
-    void missionControlClosed() override {}
-    void setOnWindowsMoved(std::function<void()>) override {}
-    bool pointerMoved(Point) override { return false; }
-    bool mouseDragged(Point) override { return false; }
-    void mouseUp(Point) override {}
-    bool shelfClick(Point, std::uint64_t) override { return false; }
-    bool isOpen() const override { return false; }
-    bool isComposing() const override { return false; }
-    void pick(const Pick&) override {}
-    void recordPress(std::optional<Pick>, Point) override {}
-    bool pressDragging() const override { return false; }
-    void finishCompose() override {}
-    void cancelCompose() override {}
-    std::optional<Rect> shelfFrame() const override { return std::nullopt; }
-    bool optionHeld() const override { return false; }
-    void setOptionHeld(bool) override {}
-    std::size_t savedCount() const override { return 0; }
-    void restore(std::size_t) override {}
-    void snap(const AXElement&, Pid, SnapKey) override {}
-};
-
 }  // namespace vistrel
