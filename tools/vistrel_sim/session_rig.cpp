@@ -1,0 +1,143 @@
+#include "session_rig.h"
+
+#include <cstdlib>
+#include <iomanip>
+#include <sstream>
+
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_screen_renderer.h"
+#include "sim_pictures.h"
+#include "tracking/mission_control_detector.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr std::string_view pictureExtension = ".png";
+constexpr std::string_view homeSuffix = "-home";
+constexpr int timeDecimals = 3;
+static_assert(SessionRig::userPause > Engine::refreshEvery * MissionControlDetector::openInterval);
+
+}  // namespace
+
+void EchoingLog::write(std::string_view subsystem, std::string_view category, LogLevel level,
+                       std::string_view message) {
+    desktop_.systemLog().write(subsystem, category, level, message);
+    std::ostringstream line;
+    line << std::fixed << std::setprecision(timeDecimals) << "  +"
+         << desktop_.clock().now() - started_ << "s  " << (level == LogLevel::error ? "ERROR " : "")
+         << message << "\n";
+    out_ << line.str();
+}
+
+EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
+    : platform_{.accessibility = desktop.platform().accessibility,
+                .windowServer = desktop.platform().windowServer,
+                .workspace = desktop.platform().workspace,
+                .screens = desktop.platform().screens,
+                .defaults = desktop.platform().defaults,
+                .eventTap = desktop.platform().eventTap,
+                .executor = desktop.platform().executor,
+                .clock = desktop.platform().clock,
+                .systemLog = log,
+                .loginItem = desktop.platform().loginItem,
+                .windowHost = desktop.platform().windowHost,
+                .text = desktop.platform().text} {
+    installPlatform(&platform_);
+}
+
+ScopedHome::ScopedHome(const std::filesystem::path& home) {
+    std::error_code ignored;
+    std::filesystem::remove_all(home, ignored);
+    if (const char* saved = std::getenv("HOME")) saved_ = saved;
+    // The file log keeps nothing under a relative home.
+    setenv("HOME", std::filesystem::absolute(home).c_str(), 1);
+}
+
+ScopedHome::~ScopedHome() {
+    if (saved_) {
+        setenv("HOME", saved_->c_str(), 1);
+    } else {
+        unsetenv("HOME");
+    }
+}
+
+SessionRig::SessionRig(SimCommandContext& context, std::string_view name)
+    : context_(context),
+      name_(name),
+      home_(context.outputDirectory / (name_ + std::string(homeSuffix))) {
+    populateDefaultScene(desktop_);
+    engine_ = Engine::make();
+    engine_->start();
+    desktop_.executor().advance(MissionControlDetector::startDelay);
+}
+
+std::filesystem::path SessionRig::home() const {
+    return context_.outputDirectory / (name_ + std::string(homeSuffix));
+}
+
+bool SessionRig::deliver(const InputEvent& event) {
+    if (event.type != EventType::keyDown && event.type != EventType::keyUp)
+        pointer_ = event.location;
+    const bool passed = desktop_.eventTap().deliver(event);
+    desktop_.executor().runUntilIdle();
+    return passed;
+}
+
+bool SessionRig::press(std::int64_t keyCode, std::uint64_t flags) {
+    const bool passed = deliver(SimInput::keyDown(keyCode, flags));
+    deliver(SimInput::keyUp(keyCode, flags));
+    return passed;
+}
+
+bool SessionRig::click(Point point) {
+    deliver(SimInput::mouseMoved(point));
+    const bool passed = deliver(SimInput::mouseDown(point));
+    deliver(SimInput::mouseUp(point));
+    return passed;
+}
+
+void SessionRig::pause() {
+    desktop_.executor().advance(userPause);
+}
+
+bool SessionRig::openMissionControl() {
+    desktop_.dock().open();
+    desktop_.executor().advance(MissionControlDetector::closedInterval);
+    if (!engine_->active()) return fail("the engine did not notice Mission Control open");
+    return true;
+}
+
+bool SessionRig::closeMissionControl() {
+    // The engine lets Escape through to the Dock, which leaves Mission Control.
+    if (!press(SimDock::escapeKeyCode, 0)) return fail("Escape was swallowed");
+    desktop_.executor().advance(MissionControlDetector::openInterval);
+    if (engine_->active()) return fail("the engine still thinks Mission Control is open");
+    return true;
+}
+
+bool SessionRig::takePicture(int number, std::string_view picture,
+                             std::optional<SimWindowId> hovered) {
+    SimScreenScene scene;
+    scene.missionControl = desktop_.dock().isOpen();
+    if (scene.missionControl) scene.thumbnails = screenThumbnails(desktop_, hovered);
+    scene.pointer = pointer_;
+    const auto path =
+        context_.outputDirectory / (name_ + "-" + std::to_string(number) + "-" +
+                                    std::string(picture) + std::string(pictureExtension));
+    if (!SimScreenRenderer(desktop_).writePng(scene, path)) return fail("could not write picture");
+    context_.out << "  wrote " << path.string() << "\n";
+    return true;
+}
+
+std::string SessionRig::titleOf(SimWindowId id) {
+    const SimWindow* window = desktop_.window(id);
+    return window != nullptr ? window->title : std::string("?");
+}
+
+bool SessionRig::fail(std::string_view why) {
+    context_.out << "  session stopped: " << why << "\n";
+    return false;
+}
+
+}  // namespace vistrel

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "platform/sim/sim_desktop.h"
+#include "sim_command.h"
+#include "tracking/engine.h"
+
+namespace vistrel {
+
+// The unified log of a session: every line goes to the desktop's log and is printed the
+// moment the agent writes it, stamped with the virtual time since the session began.
+class EchoingLog : public SystemLog {
+  public:
+    EchoingLog(SimDesktop& desktop, std::ostream& out)
+        : desktop_(desktop), out_(out), started_(desktop.clock().now()) {}
+
+    void write(std::string_view subsystem, std::string_view category, LogLevel level,
+               std::string_view message) override;
+
+  private:
+    SimDesktop& desktop_;
+    std::ostream& out_;
+    double started_;
+};
+
+// The desktop's platform with the echoing log in place of its own, installed for the
+// lifetime of this object.
+class EchoingPlatform {
+  public:
+    EchoingPlatform(SimDesktop& desktop, SystemLog& log);
+    ~EchoingPlatform() { installPlatform(nullptr); }
+    EchoingPlatform(const EchoingPlatform&) = delete;
+    EchoingPlatform& operator=(const EchoingPlatform&) = delete;
+
+  private:
+    Platform platform_;
+};
+
+// Points HOME at an empty folder of the session's own while it plays, so the agent's file
+// log lands next to the pictures, holding this session only, instead of in the user's
+// real log folder.
+class ScopedHome {
+  public:
+    explicit ScopedHome(const std::filesystem::path& home);
+    ~ScopedHome();
+    ScopedHome(const ScopedHome&) = delete;
+    ScopedHome& operator=(const ScopedHome&) = delete;
+
+  private:
+    std::optional<std::string> saved_;
+};
+
+// What a scripted session plays on: the default scene with the real engine started, the
+// event stream, and the pictures. Pictures are named "<name>-<number>-<picture>.png" and
+// the agent's file log goes under "<name>-home" in the output folder.
+class SessionRig {
+  public:
+    // The user's pause before each step. It is long enough for the engine's detector ticks
+    // to read the thumbnails again after a window left Mission Control, so the next hover
+    // is tested against the new rows.
+    static constexpr double userPause = 0.5;
+
+    SessionRig(SimCommandContext& context, std::string_view name);
+
+    SimDesktop& desktop() { return desktop_; }
+    Engine& engine() { return *engine_; }
+    std::ostream& out() { return context_.out; }
+    std::filesystem::path home() const;
+
+    // Delivers an event through the tap and runs the work it starts; answers whether it
+    // went on to the system.
+    bool deliver(const InputEvent& event);
+    // A key pressed and released; answers whether the press went on to the system.
+    bool press(std::int64_t keyCode, std::uint64_t flags);
+    // A click: the pointer moves there, then a press and a release; answers whether the
+    // press went on to the system.
+    bool click(Point point);
+    // Lets the user's pause go by in virtual time.
+    void pause();
+    // Opens or closes Mission Control and waits for the engine's detector to notice.
+    bool openMissionControl();
+    bool closeMissionControl();
+
+    bool takePicture(int number, std::string_view picture, std::optional<SimWindowId> hovered);
+    std::string titleOf(SimWindowId id);
+    // Prints why the session stopped; false, to return from the step.
+    bool fail(std::string_view why);
+
+  private:
+    SimCommandContext& context_;
+    std::string name_;
+    ScopedHome home_;
+    SimDesktop desktop_;
+    EchoingLog log_{desktop_, context_.out};
+    EchoingPlatform installed_{desktop_, log_};
+    std::shared_ptr<Engine> engine_;
+    std::optional<Point> pointer_;
+};
+
+}  // namespace vistrel
