@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "diagnostics/log.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"
 #include "windows/lazy_queue.h"
@@ -161,6 +162,34 @@ bool WindowMover::writeFrame(const AXElement& window, Rect frame) {
 
 bool WindowMover::isFullScreen(const AXElement& window) {
     return AX::value<bool>(window, AX::fullScreen).value_or(false);
+}
+
+std::optional<RunningApplication> WindowMover::running(const std::string& bundleID) {
+    for (RunningApplication& app : platform().workspace.runningApplications()) {
+        if (app.bundleIdentifier == bundleID && !app.terminated) return std::move(app);
+    }
+    return std::nullopt;
+}
+
+std::optional<RunningApplication> WindowMover::launch(const std::string& bundleID) {
+    Workspace& workspace = platform().workspace;
+    const auto url = workspace.applicationURL(bundleID);
+    if (!url) return std::nullopt;
+    OpenConfiguration background;
+    background.activates = false;
+    // A slow open is not given up: the polls below still wait for the application.
+    workspace.launchApplication(*url, background, launchTimeout);
+    for (int poll = 0; poll < launchPolls; ++poll) {
+        platform().clock.sleep(launchPollInterval);
+        const auto app = running(bundleID);
+        if (app && !windows(*app, true).empty()) break;
+    }
+    auto app = running(bundleID);
+    if (app) {
+        Log::info("layouts: opened " + app->localizedName.value_or(bundleID) +
+                  " to restore a layout");
+    }
+    return app;
 }
 
 }  // namespace vistrel

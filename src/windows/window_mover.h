@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -38,6 +39,11 @@ struct WindowMover {
     static constexpr double rankTolerance = 2.0;
     // Listing an application's windows gives up sooner than acting on one.
     static constexpr float enumerationTimeout = 0.5f;
+    // A launch waits this long for the application to open, then looks for its first
+    // window every launchPollInterval seconds, at most launchPolls times (about as long).
+    static constexpr double launchTimeout = 5.0;
+    static constexpr double launchPollInterval = 0.25;
+    static constexpr int launchPolls = 20;
 
     // The layouts' serial work queue, made on first use.
     static std::shared_ptr<SerialQueue> queue();
@@ -61,6 +67,14 @@ struct WindowMover {
     static bool writeFrame(const AXElement& window, Rect frame);
     // "AXFullScreen"; false when it cannot be read.
     static bool isFullScreen(const AXElement& window);
+
+    // The first running application with this bundle identifier.
+    static std::optional<RunningApplication> running(const std::string& bundleID);
+    // Opens an installed application in the background (not brought to the front) so that
+    // a layout can place its windows, and waits for its first window. The application once
+    // it runs, even without a window; nothing when it is not installed or never came up.
+    // Blocks for up to launchTimeout plus the polls.
+    static std::optional<RunningApplication> launch(const std::string& bundleID);
 };
 
 }  // namespace vistrel

@@ -1,0 +1,207 @@
+#include "layouts/layout_action_steps.h"
+
+#include <algorithm>
+#include <cctype>
+#include <iterator>
+#include <utility>
+
+#include "diagnostics/log.h"
+#include "layouts/layout_match.h"
+#include "platform/platform.h"
+#include "tracking/ax.h"
+#include "windows/screens.h"
+#include "windows/window_attribute.h"
+#include "windows/window_mover.h"
+
+namespace vistrel::LayoutActionSteps {
+
+namespace {
+
+// Capture records the whole area when the screen leaves no room inside the gap, so that
+// the window comes back filling the screen rather than shrunk to nothing.
+constexpr UnitRect wholeArea{0, 0, 1, 1};
+
+std::string pidText(Pid pid) {
+    return "(pid " + std::to_string(pid) + ")";
+}
+
+std::string lowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
+
+// A layout names the screen of each window by the display's identifier: the UUID outlives
+// renames, resolution changes and reconnections, and it is what restore looks screens up by.
+std::optional<std::string> displayOf(const ScreenInfo& screen) {
+    if (screen.id.empty()) return std::nullopt;
+    return screen.id;
+}
+
+UnitRect capturedRect(Rect frame, Rect area, double gap) {
+    const double half = gap * 0.5;
+    const Rect inner = area.insetBy(half, half);
+    if (inner.width <= 0 || inner.height <= 0) return wholeArea;
+    return UnitRect::of(frame, area, gap);
+}
+
+std::vector<std::string> distinctBundleIDs(const std::vector<SavedLayout::Window>& windows) {
+    std::vector<std::string> ids;
+    for (const SavedLayout::Window& window : windows) {
+        if (std::find(ids.begin(), ids.end(), window.bundleID) == ids.end()) {
+            ids.push_back(window.bundleID);
+        }
+    }
+    return ids;
+}
+
+// The running application, launched first when the user allows it.
+std::optional<RunningApplication> applicationFor(const std::string& bundleID, bool launchApps) {
+    auto app = WindowMover::running(bundleID);
+    if (!app && launchApps) app = WindowMover::launch(bundleID);
+    if (!app) Log::info("layouts: " + bundleID + " is not running, its windows are skipped");
+    return app;
+}
+
+// The windows of the layout's applications, minimized ones included, application by
+// application in the layout's order.
+std::vector<OpenWindow> openWindows(const std::vector<SavedLayout::Window>& saved,
+                                    bool launchApps) {
+    std::vector<OpenWindow> open;
+    for (const std::string& bundleID : distinctBundleIDs(saved)) {
+        const auto app = applicationFor(bundleID, launchApps);
+        if (!app) continue;
+        if (app->hidden) platform().workspace.unhide(app->pid);
+        std::vector<OpenWindow> more = WindowMover::windows(*app, true);
+        open.insert(open.end(), std::make_move_iterator(more.begin()),
+                    std::make_move_iterator(more.end()));
+    }
+    return open;
+}
+
+// The screen the window was saved on, else the first; none without screens.
+const ScreenInfo* targetScreen(const std::optional<std::string>& display,
+                               const std::vector<ScreenInfo>& screens) {
+    if (screens.empty()) return nullptr;
+    if (display) {
+        for (const ScreenInfo& screen : screens) {
+            if (screen.id == *display) return &screen;
+        }
+    }
+    return &screens.front();
+}
+
+// Brings a minimized window back first: a minimized window ignores frame writes.
+bool place(const OpenWindow& window, const UnitRect& rect, const ScreenInfo& screen, double gap) {
+    const AXElement& element = window.ref.element;
+    if (window.minimized) {
+        WindowAttribute::setTimeout(element, WindowAttribute::actionTimeout);
+        WindowAttribute::write(element, AX::minimized, false);
+    }
+    return WindowMover::setFrame(window.ref.pid, element, rect.frame(screen.visible, gap));
+}
+
+std::vector<LayoutMatch::Open> matchKeys(const std::vector<OpenWindow>& open) {
+    std::vector<LayoutMatch::Open> keys;
+    for (const OpenWindow& window : open)
+        keys.push_back({window.bundleID, window.title});
+    return keys;
+}
+
+// Records one arranged window; none when its application no longer runs or has no bundle
+// identifier, as such a window could never be paired again.
+std::optional<SavedLayout::Window> record(const LayoutActions::Placement& placement,
+                                          const ScreenInfo& screen) {
+    const auto owner = platform().workspace.application(placement.ref.pid);
+    if (!owner || !owner->bundleIdentifier) return std::nullopt;
+    return SavedLayout::Window{
+        *owner->bundleIdentifier, owner->localizedName.value_or(std::string()),
+        AX::string(placement.ref.element, WindowAttribute::title).value_or(std::string()),
+        placement.rect, displayOf(screen)};
+}
+
+}  // namespace
+
+std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows) {
+    if (windows.empty()) return std::nullopt;
+    std::vector<std::string> names;
+    for (const SavedLayout::Window& window : windows)
+        names.push_back(window.app);
+    return SavedLayout{UUID::random(), SavedLayout::autoName(names), std::move(windows),
+                       SavedLayout::dateSinceReference(platform().clock.now())};
+}
+
+std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap) {
+    std::vector<SavedLayout::Window> captured;
+    for (const OpenWindow& window : WindowMover::visibleWindows()) {
+        const auto screen = Screens::holding(window.frame, screens);
+        if (!screen) continue;
+        captured.push_back({window.bundleID, window.app, window.title,
+                            capturedRect(window.frame, screen->visible, gap), displayOf(*screen)});
+    }
+    return layoutOf(std::move(captured));
+}
+
+std::vector<WindowRef> restore(const RestoreRequest& request) {
+    const std::vector<SavedLayout::Window>& saved = request.layout.windows;
+    const std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
+    const auto pairing = LayoutMatch::pair(saved, matchKeys(open));
+    std::vector<WindowRef> moved;
+    for (std::size_t i = 0; i < saved.size() && i < pairing.size(); ++i) {
+        if (!pairing[i]) continue;
+        const ScreenInfo* screen = targetScreen(saved[i].display, request.screens);
+        if (screen == nullptr) continue;
+        const OpenWindow& partner = open[*pairing[i]];
+        if (place(partner, saved[i].rect, *screen, request.gap)) moved.push_back(partner.ref);
+    }
+    Log::info("layouts: restored \"" + request.layout.name + "\", " + std::to_string(moved.size()) +
+              " of " + std::to_string(saved.size()) + " windows");
+    return moved;
+}
+
+Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
+                 double gap) {
+    Arranged arranged;
+    for (const LayoutActions::Placement& placement : placements) {
+        const WindowRef& ref = placement.ref;
+        if (WindowMover::isFullScreen(ref.element)) continue;
+        auto window = record(placement, screen);
+        if (!window) continue;
+        if (WindowMover::setFrame(ref.pid, ref.element,
+                                  placement.rect.frame(screen.visible, gap))) {
+            arranged.moved.push_back(ref);
+        }
+        arranged.windows.push_back(std::move(*window));
+    }
+    Log::info("layouts: arranged " + std::to_string(arranged.windows.size()) + " windows");
+    return arranged;
+}
+
+std::optional<LayoutActions::Snapped> snap(const WindowRef& window, SnapKey key,
+                                           const std::vector<ScreenInfo>& screens, double gap) {
+    if (WindowMover::isFullScreen(window.element)) {
+        Log::info("layouts: not snapping a full-screen window " + pidText(window.pid));
+        return std::nullopt;
+    }
+    const auto frame = WindowMover::frame(window.element);
+    if (!frame) {
+        Log::info("layouts: not snapping a window without a readable frame " + pidText(window.pid));
+        return std::nullopt;
+    }
+    // A window on no screen (its screen just went away) is snapped on the first one.
+    auto screen = Screens::holding(*frame, screens);
+    if (!screen && !screens.empty()) screen = screens.front();
+    if (!screen) {
+        Log::info("layouts: not snapping a window without a screen " + pidText(window.pid));
+        return std::nullopt;
+    }
+    const Rect area = screen->visible;
+    const UnitRect target = Snap::next(UnitRect::of(*frame, area, gap), key);
+    const Rect targetFrame = target.frame(area, gap);
+    const bool moved = WindowMover::setFrame(window.pid, window.element, targetFrame);
+    Log::info(std::string("layouts: ") + (moved ? "did" : "FAILED to") + " snap window " +
+              pidText(window.pid) + " to " + lowerCase(Snap::name(target)));
+    return LayoutActions::Snapped{target, targetFrame};
+}
+
+}  // namespace vistrel::LayoutActionSteps

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "layouts/layout_actions.h"
+#include "layouts/saved_layout.h"
+#include "layouts/snap.h"
+#include "windows/screen_info.h"
+#include "windows/window_ref.h"
+
+namespace vistrel {
+
+// The window work behind LayoutActions, one blocking step per operation, run on the layouts
+// queue with the settings and screens the caller read beforehand.
+namespace LayoutActionSteps {
+
+// What a restore needs from the main thread.
+struct RestoreRequest {
+    SavedLayout layout;
+    std::vector<ScreenInfo> screens;
+    double gap = 0;
+    bool launchApps = true;
+};
+
+// The windows an arrangement recorded, and those of them that took their frames.
+struct Arranged {
+    std::vector<SavedLayout::Window> windows;
+    std::vector<WindowRef> moved;
+};
+
+// The visible windows as a new layout; none when no window is on a screen.
+std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap);
+// Moves the layout's windows back; the windows moved, in the layout's order.
+std::vector<WindowRef> restore(const RestoreRequest& request);
+// Places the windows into their slots on the screen, full-screen windows left alone.
+Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
+                 double gap);
+// Moves the window where the key sends it on the screen holding it.
+std::optional<LayoutActions::Snapped> snap(const WindowRef& window, SnapKey key,
+                                           const std::vector<ScreenInfo>& screens, double gap);
+
+// A new layout of these windows, named after their applications and dated now; none
+// without windows.
+std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows);
+
+}  // namespace LayoutActionSteps
+
+}  // namespace vistrel

@@ -1,0 +1,114 @@
+#include "layouts/layout_actions.h"
+
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "diagnostics/log.h"
+#include "layouts/layout_action_steps.h"
+#include "platform/platform.h"
+#include "settings/settings.h"
+#include "tracking/mission_control_detector.h"
+#include "windows/screens.h"
+#include "windows/window_attribute.h"
+#include "windows/window_mover.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr std::string_view raiseAction = "AXRaise";
+constexpr std::string_view frontmost = "AXFrontmost";
+
+// Hands the work to the layouts queue.
+void work(Task task) {
+    WindowMover::queue()->async(std::move(task));
+}
+
+// Calls the completion on the main thread with the result.
+template <typename Result>
+void complete(const std::function<void(Result)>& done, Result result) {
+    if (!done) return;
+    platform().executor.main().async([done, result = std::move(result)] { done(result); });
+}
+
+void postEscape() {
+    WindowServer& server = platform().windowServer;
+    server.postKey(LayoutActions::escapeKeyCode, true);
+    server.postKey(LayoutActions::escapeKeyCode, false);
+}
+
+void raiseLater(std::vector<WindowRef> windows) {
+    WindowMover::queue()->after(LayoutActions::escapeSettle,
+                                [windows = std::move(windows)] { LayoutActions::raise(windows); });
+}
+
+// Mission Control sometimes swallows the first Escape while it is still animating open.
+void escapeAgainIfStillOpen(std::vector<WindowRef> windows) {
+    if (!MissionControlDetector::isMissionControlOpen()) return;
+    Log::info("layouts: Mission Control still open after Escape, sending it again");
+    postEscape();
+    raiseLater(std::move(windows));
+}
+
+}  // namespace
+
+double LayoutActions::gap() {
+    const double gap = Settings::shared().layoutsGap();
+    // A stored NaN passes the clamp unchanged and would make every frame unwritable.
+    return std::isnan(gap) ? 0 : gap;
+}
+
+void LayoutActions::captureCurrent(CaptureDone done) {
+    work([screens = Screens::snapshot(), gap = gap(), done = std::move(done)] {
+        complete(done, LayoutActionSteps::capture(screens, gap));
+    });
+}
+
+void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
+    LayoutActionSteps::RestoreRequest request{layout, Screens::snapshot(), gap(),
+                                              Settings::shared().layoutsLaunchApps()};
+    work([request = std::move(request), done = std::move(done)] {
+        std::vector<WindowRef> moved = LayoutActionSteps::restore(request);
+        leaveMissionControl(moved);
+        complete(done, std::move(moved));
+    });
+}
+
+void LayoutActions::arrange(std::vector<Placement> placements, const ScreenInfo& screen,
+                            ArrangeDone done) {
+    work([placements = std::move(placements), screen, gap = gap(), done = std::move(done)] {
+        LayoutActionSteps::Arranged arranged = LayoutActionSteps::arrange(placements, screen, gap);
+        leaveMissionControl(std::move(arranged.moved));
+        complete(done, LayoutActionSteps::layoutOf(std::move(arranged.windows)));
+    });
+}
+
+void LayoutActions::snap(const WindowRef& window, SnapKey key, SnapDone done) {
+    work([window, key, screens = Screens::snapshot(), gap = gap(), done = std::move(done)] {
+        complete(done, LayoutActionSteps::snap(window, key, screens, gap));
+    });
+}
+
+void LayoutActions::leaveMissionControl(std::vector<WindowRef> raising) {
+    const bool wasOpen = MissionControlDetector::isMissionControlOpen();
+    if (wasOpen) postEscape();
+    raiseLater(raising);
+    if (!wasOpen) return;
+    WindowMover::queue()->after(
+        escapeRecheck, [raising = std::move(raising)] { escapeAgainIfStillOpen(raising); });
+}
+
+void LayoutActions::raise(const std::vector<WindowRef>& windows) {
+    Accessibility& accessibility = platform().accessibility;
+    // Backwards, so that the first window ends up in front.
+    for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
+        if (it != windows.rbegin()) platform().clock.sleep(raisePause);
+        accessibility.performAction(it->element, raiseAction);
+        const AXElement app = accessibility.application(it->pid);
+        WindowAttribute::setTimeout(app, frontmostTimeout);
+        WindowAttribute::write(app, frontmost, true);
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "layout_actions_test.h"
+#include "layouts/layout_actions.h"
+#include "windows/recording_accessibility.h"
+
+namespace vistrel {
+namespace {
+
+using Keys = std::vector<std::pair<std::uint16_t, bool>>;
+
+// Steps of virtual time either side of a deadline, well clear of rounding.
+constexpr double justBefore = 0.01;
+constexpr double justAfter = 0.02;
+
+const Keys escape{{53, true}, {53, false}};
+const Keys escapeTwice{{53, true}, {53, false}, {53, true}, {53, false}};
+const std::string stillOpen = "layouts: Mission Control still open after Escape, sending it again";
+
+class LayoutActionsLeaveTest : public testing::LayoutActionsTest {
+  protected:
+    // Windows listed back to front, so raising them in list order would leave them so.
+    std::vector<WindowRef> raising() {
+        return {ref("Applications"), ref("Inbox – iCloud"), ref("Notes")};
+    }
+    const std::vector<std::string> raised{"Applications", "Inbox – iCloud", "Notes"};
+
+    std::vector<std::string> front(std::size_t count) {
+        const auto titles = titlesFrontToBack();
+        return {titles.begin(), titles.begin() + static_cast<std::ptrdiff_t>(count)};
+    }
+
+    const Keys& posted() { return desktop.windowServer().postedKeys; }
+
+    // Mission Control ignores the first Escape, as it does while still animating open.
+    void ignoreFirstEscape() {
+        desktop.windowServer().onKey = [this, ignored = false](std::uint16_t, bool down) mutable {
+            if (!down || ignored) return;
+            ignored = true;
+            desktop.dock().open();
+        };
+    }
+};
+
+TEST_F(LayoutActionsLeaveTest, WithMissionControlClosedNoEscapeIsPostedAndTheWindowsAreRaised) {
+    LayoutActions::leaveMissionControl(raising());
+    advance(3);
+
+    EXPECT_TRUE(posted().empty());
+    EXPECT_EQ(front(3), raised);
+    EXPECT_EQ(logged(stillOpen), 0u);
+}
+
+TEST_F(LayoutActionsLeaveTest, WithMissionControlOpenEscapeIsPostedAtOnce) {
+    desktop.dock().open();
+
+    LayoutActions::leaveMissionControl(raising());
+
+    EXPECT_EQ(posted(), escape);
+    EXPECT_FALSE(desktop.dock().isOpen());
+}
+
+TEST_F(LayoutActionsLeaveTest, TheWindowsAreRaisedAfterMissionControlHadTimeToClose) {
+    desktop.dock().open();
+    const auto before = front(3);
+
+    LayoutActions::leaveMissionControl(raising());
+    advance(LayoutActions::escapeSettle - justBefore);
+    EXPECT_EQ(front(3), before);
+    advance(justAfter);
+
+    EXPECT_EQ(front(3), raised);
+}
+
+TEST_F(LayoutActionsLeaveTest, MissionControlThatClosedIsNotSentEscapeAgain) {
+    desktop.dock().open();
+
+    LayoutActions::leaveMissionControl(raising());
+    advance(3);
+
+    EXPECT_EQ(posted(), escape);
+    EXPECT_EQ(logged(stillOpen), 0u);
+}
+
+TEST_F(LayoutActionsLeaveTest, MissionControlStillOpenAfterEscapeIsSentItAgainAndTheWindowsRaised) {
+    desktop.dock().open();
+    ignoreFirstEscape();
+
+    LayoutActions::leaveMissionControl(raising());
+    advance(LayoutActions::escapeRecheck - justBefore);
+    EXPECT_EQ(posted(), escape);
+    EXPECT_TRUE(desktop.dock().isOpen());
+    // Something else comes forward before the second Escape.
+    desktop.bringToFront(windowTitled("Start Page"));
+    advance(justAfter);
+
+    EXPECT_EQ(posted(), escapeTwice);
+    EXPECT_FALSE(desktop.dock().isOpen());
+    EXPECT_EQ(logged(stillOpen), 1u);
+    EXPECT_EQ(front(1), std::vector<std::string>{"Start Page"});
+    advance(LayoutActions::escapeSettle);
+    EXPECT_EQ(front(3), raised);
+    advance(5);
+    EXPECT_EQ(posted(), escapeTwice);
+    EXPECT_EQ(logged(stillOpen), 1u);
+}
+
+TEST_F(LayoutActionsLeaveTest, MissionControlOpenedOnlyAfterwardsIsLeftAlone) {
+    LayoutActions::leaveMissionControl(raising());
+    advance(0.5);
+    desktop.dock().open();
+    advance(3);
+
+    EXPECT_TRUE(posted().empty());
+    EXPECT_TRUE(desktop.dock().isOpen());
+}
+
+TEST_F(LayoutActionsLeaveTest, RaisingGoesFromTheLastWindowToTheFirstLeavingTheFirstInFront) {
+    LayoutActions::raise(raising());
+
+    EXPECT_EQ(front(3), raised);
+}
+
+TEST_F(LayoutActionsLeaveTest, RaisingPausesBetweenWindows) {
+    const double start = desktop.clock().now();
+
+    LayoutActions::raise(raising());
+
+    EXPECT_NEAR(desktop.clock().now() - start, 2 * LayoutActions::raisePause, 1e-6);
+}
+
+TEST_F(LayoutActionsLeaveTest, RaisingBringsEachApplicationForwardWithAShortTimeout) {
+    testing::RecordingAccessibility recording(desktop.platform());
+
+    LayoutActions::raise(raising());
+
+    const auto frontmost = std::count(recording.writes.begin(), recording.writes.end(),
+                                      testing::RecordingAccessibility::Write{"AXFrontmost", true});
+    EXPECT_EQ(frontmost, 3);
+    for (const char* bundleID : {"com.apple.finder", "com.apple.mail", "com.apple.Notes"}) {
+        const AXElement app = desktop.accessibility().application(pidOf(bundleID));
+        EXPECT_FLOAT_EQ(desktop.accessibility().messagingTimeout(app), 0.5f) << bundleID;
+    }
+}
+
+TEST_F(LayoutActionsLeaveTest, AWindowThatClosedDoesNotStopTheOthersFromBeingRaised) {
+    const std::vector<WindowRef> windows = raising();
+    desktop.closeWindow(windowTitled("Inbox – iCloud"));
+
+    LayoutActions::raise(windows);
+
+    EXPECT_EQ(front(2), (std::vector<std::string>{"Applications", "Notes"}));
+}
+
+}  // namespace
+}  // namespace vistrel
