@@ -5,6 +5,7 @@
 
 #include "platform/geometry.h"
 #include "platform/window_host.h"
+#include "views/badge_view.h"
 
 namespace vistrel {
 
@@ -22,9 +23,13 @@ class BadgeController {
     // The badges shown now.
     std::size_t shown() const { return shown_; }
     const std::vector<std::unique_ptr<AgentWindow>>& windows() const { return windows_; }
+    // The view drawing the badge in windows()[index].
+    const BadgeView& view(std::size_t index) const { return views_.at(index); }
 
   private:
     std::vector<std::unique_ptr<AgentWindow>> windows_;
+    // One per window, in the same order; each draws into its window.
+    std::vector<BadgeView> views_;
     std::size_t shown_ = 0;
 };
 

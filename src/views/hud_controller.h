@@ -35,7 +35,9 @@ class HUDController {
     const AgentWindow* window() const { return window_.get(); }
 
   private:
-    AgentWindow& window();
+    // The window, made on first use. Named apart from window() so that the public accessor
+    // stays callable on a non-const controller.
+    AgentWindow& ensureWindow();
 
     HUDView view_;
     std::unique_ptr<AgentWindow> window_;

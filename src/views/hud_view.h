@@ -19,11 +19,14 @@ class HUDView {
     const std::string& message() const { return message_; }
     const std::optional<UnitRect>& unit() const { return unit_; }
 
-    // The size the capsule needs for a message and an optional miniature.
+    // The size the capsule needs for a message and an optional miniature, in whole points.
     static Size measure(const std::string& message, bool withUnit);
+    // The message's font.
+    static Font font();
 
     void attach(AgentWindow* window);
     void setNeedsDisplay();
+    // Draws into a view of size `bounds`, origin at its top-left.
     void draw(Canvas& canvas, Size bounds) const;
 
   private:

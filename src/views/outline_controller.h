@@ -29,8 +29,18 @@ class OutlineController {
     const AgentWindow* bar(std::size_t index) const { return bars_[index].get(); }
 
   private:
+    void makeBars();
+    // Places the bars around a whole-point rectangle and shows them opaque.
+    void showBars(Rect outlined);
+    // Fades the bars out; once faded, orders them out unless a flash or a hide came since.
+    void fadeOut(std::uint64_t generation);
+    void orderOutBars();
+
     std::array<std::unique_ptr<AgentWindow>, 4> bars_;
     std::uint64_t generation_ = 0;
+    // Delayed work holds this token weakly instead of the controller, so work that comes
+    // due after the controller is gone finds nothing to do.
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 };
 
 }  // namespace vistrel
