@@ -70,7 +70,8 @@ void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
                                               Settings::shared().layoutsLaunchApps()};
     work([request = std::move(request), done = std::move(done)] {
         std::vector<WindowRef> moved = LayoutActionSteps::restore(request);
-        leaveMissionControl(moved);
+        // With nothing moved Mission Control stays open, to say why.
+        if (!moved.empty()) leaveMissionControl(moved);
         complete(done, std::move(moved));
     });
 }
@@ -79,7 +80,7 @@ void LayoutActions::arrange(std::vector<Placement> placements, const ScreenInfo&
                             ArrangeDone done) {
     work([placements = std::move(placements), screen, gap = gap(), done = std::move(done)] {
         LayoutActionSteps::Arranged arranged = LayoutActionSteps::arrange(placements, screen, gap);
-        leaveMissionControl(std::move(arranged.moved));
+        if (!arranged.moved.empty()) leaveMissionControl(std::move(arranged.moved));
         complete(done, LayoutActionSteps::layoutOf(std::move(arranged.windows)));
     });
 }
