@@ -48,11 +48,17 @@ class RendererGlassTest : public ::testing::Test {
         glass->orderFrontRegardless();
     }
 
-    Rgba at(Point point) {
+    CairoSurface render() {
         SimScreenScene scene;
         scene.scale = 1;
-        return renderer.render(scene).pixel(static_cast<int>(point.x), static_cast<int>(point.y));
+        return renderer.render(scene);
     }
+
+    static Rgba pixel(const CairoSurface& surface, Point point) {
+        return surface.pixel(static_cast<int>(point.x), static_cast<int>(point.y));
+    }
+
+    Rgba at(Point point) { return pixel(render(), point); }
 
     SimDesktop desktop;
     ScopedPlatform installed{desktop};
@@ -72,20 +78,22 @@ TEST_F(RendererGlassTest, GlassDarkensWhatLiesBeneathWithItsVeil) {
 
 TEST_F(RendererGlassTest, GlassBlursTheEdgeBeneathIt) {
     // Just either side of the edge, white and black are mixed; further off, they are not.
-    const int nearWhite = at({edgeX - 3, 450})[0];
-    const int farWhite = at({edgeX - 120, 450})[0];
-    const int nearBlack = at({edgeX + 3, 450})[0];
-    const int farBlack = at({edgeX + 120, 450})[0];
+    const CairoSurface screen = render();
+    const int nearWhite = pixel(screen, {edgeX - 3, 450})[0];
+    const int farWhite = pixel(screen, {edgeX - 120, 450})[0];
+    const int nearBlack = pixel(screen, {edgeX + 3, 450})[0];
+    const int farBlack = pixel(screen, {edgeX + 120, 450})[0];
     EXPECT_LT(nearWhite, farWhite - 10);
     EXPECT_GT(nearBlack, farBlack + 10);
     EXPECT_LT(std::abs(nearWhite - nearBlack), 10);
 }
 
 TEST_F(RendererGlassTest, TheGlassCornersAreRoundedAndLeaveTheBackdropThere) {
+    const CairoSurface screen = render();
     // The window's top-left pixel lies outside the rounded corner: plain white.
-    EXPECT_EQ(at({glassFrame.x + 1, glassFrame.y + 1}), (Rgba{255, 255, 255, 255}));
+    EXPECT_EQ(pixel(screen, {glassFrame.x + 1, glassFrame.y + 1}), (Rgba{255, 255, 255, 255}));
     // Along the top edge, away from the corner, the glass is there.
-    EXPECT_LT(at({glassFrame.x + 60, glassFrame.y + 1})[0], 200);
+    EXPECT_LT(pixel(screen, {glassFrame.x + 60, glassFrame.y + 1})[0], 200);
 }
 
 TEST_F(RendererGlassTest, TheWindowsContentIsDrawnOverItsGlass) {
