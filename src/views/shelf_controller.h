@@ -28,9 +28,16 @@ class ShelfController {
     const AgentWindow* window() const { return window_.get(); }
 
   private:
+    // Makes the window (replacing any previous one) with glass at the shelf's radius.
+    void makeWindow();
+    // Draws the state into the window, puts it at `frame` (accessibility coordinates) and
+    // orders it front.
+    void present(const ShelfLayout& layout, const ShelfState& state, Rect frame);
+
     ShelfView view_;
     std::unique_ptr<AgentWindow> window_;
     std::optional<Rect> shownFrame_;
+    double glassRadius_ = cornerRadius;  // the radius the window's glass has
 };
 
 }  // namespace vistrel

@@ -25,6 +25,9 @@ class ShelfView {
     void draw(Canvas& canvas) const;
 
   private:
+    void drawDivider(Canvas& canvas) const;
+    void drawPill(Canvas& canvas) const;
+
     ShelfLayout layout_;
     ShelfState state_;
     Point origin_;

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "diagnostics/log.h"
 #include "platform/display_list.h"
 #include "platform/sim/cairo_canvas.h"
 #include "platform/sim/cairo_desktop_painter.h"
+#include "platform/sim/cairo_glass.h"
 #include "platform/sim/sim_desktop.h"
 
 namespace vistrel {
@@ -81,16 +83,21 @@ std::vector<const SimAgentWindow*> visibleAgentWindows(SimDesktop& desktop) {
 }
 
 // One agent window: its AppKit frame flipped into the screen's top-left space, its content
-// clipped to the frame and painted with the window's alpha.
+// clipped to the frame over its glass, if it has any, and painted with the window's alpha.
 void paintAgentWindow(cairo_t* cr, const SimAgentWindow& window, double primaryHeight,
                       CairoFonts& fonts) {
     const Rect frame = window.frame();
     const Rect onScreen{frame.minX(), primaryHeight - frame.maxY(), frame.width, frame.height};
     cairo_save(cr);
     cairo_translate(cr, onScreen.x, onScreen.y);
+    const Rect bounds{0, 0, onScreen.width, onScreen.height};
+    // The glass shows what lay beneath before the window is drawn.
+    std::optional<CairoGlass> glass;
+    if (window.glassRadius()) glass.emplace(cr, bounds);
     cairo_rectangle(cr, 0, 0, onScreen.width, onScreen.height);
     cairo_clip(cr);
     cairo_push_group(cr);
+    if (glass) glass->paint(cr, fonts, *window.glassRadius());
     drawDisplayList(cr, *window.content(), onScreen.size(), fonts);
     cairo_pop_group_to_source(cr);
     cairo_paint_with_alpha(cr, std::clamp(window.alpha(), 0.0, 1.0));

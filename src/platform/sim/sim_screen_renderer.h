@@ -36,7 +36,8 @@ struct SimScreenScene {
 
 // Draws the whole primary screen of a simulated desktop: the desktop (its windows, or
 // Mission Control's thumbnails), then every visible window of the agent, lowest level
-// first, with its alpha, its display list replayed by Cairo.
+// first, with its alpha, its display list replayed by Cairo over frosted glass (CairoGlass)
+// when the window has glass.
 class SimScreenRenderer {
   public:
     explicit SimScreenRenderer(
