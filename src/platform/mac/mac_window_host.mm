@@ -94,24 +94,28 @@ class MacAgentWindow : public AgentWindow {
     bool isOnActiveSpace() const override { return window_.onActiveSpace == YES; }
 
     // The glass becomes the content view and the drawing view sits on it, resizing with it.
+    // Made once; a later call only changes the corner mask (the folded shelf is a capsule).
     void setGlass(double cornerRadius) override {
-        NSVisualEffectView* glass = [[NSVisualEffectView alloc] initWithFrame:NSZeroRect];
-        glass.material = NSVisualEffectMaterialHUDWindow;
-        glass.blendingMode = NSVisualEffectBlendingModeBehindWindow;
-        glass.state = NSVisualEffectStateActive;
-        glass.appearance = [NSAppearance appearanceNamed:NSAppearanceNameVibrantDark];
-        glass.maskImage = roundedMask(cornerRadius);
-        [view_ removeFromSuperview];
-        view_.frame = glass.bounds;
-        view_.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
-        view_.wantsLayer = YES;
-        [glass addSubview:view_];
-        window_.contentView = glass;
+        if (glass_ == nil) {
+            glass_ = [[NSVisualEffectView alloc] initWithFrame:NSZeroRect];
+            glass_.material = NSVisualEffectMaterialHUDWindow;
+            glass_.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+            glass_.state = NSVisualEffectStateActive;
+            glass_.appearance = [NSAppearance appearanceNamed:NSAppearanceNameVibrantDark];
+            [view_ removeFromSuperview];
+            view_.frame = glass_.bounds;
+            view_.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+            view_.wantsLayer = YES;
+            [glass_ addSubview:view_];
+            window_.contentView = glass_;
+        }
+        glass_.maskImage = roundedMask(cornerRadius);
     }
 
   private:
     NSWindow* window_;
     VistrelDisplayListView* view_;
+    NSVisualEffectView* glass_ = nil;
 };
 
 }  // namespace
