@@ -56,6 +56,19 @@ class LayoutsControllerTest : public SimTest {
         return controller->layout()->cells.front();
     }
 
+    // A point at fractions of a template cell's miniature screen.
+    Point inTemplate(int templateIndex, double fractionX, double fractionY) {
+        const Rect screen = cellFor(ShelfLayout::Item::layoutTemplate(templateIndex)).screen;
+        return {screen.minX() + screen.width * fractionX,
+                screen.minY() + screen.height * fractionY};
+    }
+
+    // Presses on a window's thumbnail and drags it to the point.
+    void drag(const std::string& title, Point to) {
+        controller->recordPress(pickOf(title), {400, 300});
+        controller->mouseDragged(to);
+    }
+
     void unfold() {
         controller->pointerMoved(controller->layout()->pill.mid());
         ASSERT_TRUE(controller->unfolded());

@@ -261,10 +261,8 @@ TEST_F(LayoutsControllerTest, DraggingWithoutAPressIsNotTaken) {
 TEST_F(LayoutsControllerTest, DraggingOverATemplateSlotShowsItAsTheDropSlot) {
     open();
     unfold();
-    const ShelfLayout::Cell halves = cellFor(Item::layoutTemplate(0));
-    const Point rightSlot{halves.screen.minX() + halves.screen.width * 0.75, halves.screen.midY()};
-    controller->recordPress(pickOf("Notes"), {400, 300});
-    controller->mouseDragged(rightSlot);
+    const Point rightSlot = inTemplate(0, 0.75, 0.5);
+    drag("Notes", rightSlot);
     EXPECT_EQ(controller->dropSlot(), (SlotRef{0, 1}));
     EXPECT_EQ(controller->shelf().view().state().dropSlot, (SlotRef{0, 1}));
 }
@@ -272,10 +270,8 @@ TEST_F(LayoutsControllerTest, DraggingOverATemplateSlotShowsItAsTheDropSlot) {
 TEST_F(LayoutsControllerTest, DroppingAWindowOnASlotArrangesItThere) {
     open();
     unfold();
-    const ShelfLayout::Cell halves = cellFor(Item::layoutTemplate(0));
-    const Point rightSlot{halves.screen.minX() + halves.screen.width * 0.75, halves.screen.midY()};
-    controller->recordPress(pickOf("Notes"), {400, 300});
-    controller->mouseDragged(rightSlot);
+    const Point rightSlot = inTemplate(0, 0.75, 0.5);
+    drag("Notes", rightSlot);
     controller->mouseUp(rightSlot);
     EXPECT_FALSE(controller->dropSlot());
     EXPECT_FALSE(controller->pressDragging());

@@ -5,13 +5,14 @@
 
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_scene.h"
+#include "support/installed_editor.h"
 #include "support/sim_test.h"
 
 namespace vistrel {
 namespace {
 
-const std::string editorID = "com.example.editor";
-const std::string editorPath = "/Applications/Editor.app";
+using testing::editorID;
+using testing::editorPath;
 constexpr double launchDelay = 0.6;
 constexpr double windowDelay = 0.4;
 constexpr double timeout = 5.0;
@@ -20,18 +21,7 @@ constexpr double timeSlack = 1e-6;
 
 class SimLaunchTest : public testing::SimTest {
   protected:
-    SimLaunchTest() {
-        SimWindow window;
-        window.title = "Untitled";
-        window.frame = {200, 200, 600, 400};
-        desktop.installations().install({editorID,
-                                         "Editor",
-                                         editorPath,
-                                         Color::fromRGB(0xFF9500),
-                                         {window},
-                                         launchDelay,
-                                         windowDelay});
-    }
+    SimLaunchTest() { testing::installEditor(desktop, launchDelay, windowDelay); }
 
     Workspace& workspace() { return desktop.workspace(); }
     bool launch(const std::string& path, double wait = timeout) {

@@ -3,32 +3,24 @@
 #include <string>
 #include <vector>
 
+#include "support/installed_editor.h"
 #include "window_test.h"
 #include "windows/window_mover.h"
 
 namespace vistrel {
 namespace {
 
+using testing::editorID;
+using testing::editorPath;
 using testing::WindowTest;
 
-const std::string editorID = "com.example.editor";
-const std::string editorPath = "/Applications/Editor.app";
 const std::string opened = "layouts: opened Editor to restore a layout";
 
 class WindowMoverLaunchTest : public WindowTest {
   protected:
     // Installs the editor, not running, with one window it brings up after a launch.
     void install(double launchDelay, double windowDelay) {
-        SimWindow window;
-        window.title = "Untitled";
-        window.frame = {200, 200, 600, 400};
-        desktop.installations().install({editorID,
-                                         "Editor",
-                                         editorPath,
-                                         Color::fromRGB(0xFF9500),
-                                         {window},
-                                         launchDelay,
-                                         windowDelay});
+        testing::installEditor(desktop, launchDelay, windowDelay);
     }
 
     std::optional<RunningApplication> launchTimed() {

@@ -35,12 +35,6 @@ class LayoutsSession {
     int play();
 
   private:
-    struct Step {
-        std::string_view picture;
-        std::string_view summary;
-        bool (LayoutsSession::*run)();
-    };
-
     bool openMissionControl();
     bool unfoldShelf();
     bool chooseHalves();
@@ -62,27 +56,24 @@ class LayoutsSession {
 };
 
 int LayoutsSession::play() {
-    static constexpr Step steps[] = {
-        {"open", "open Mission Control: the shelf waits folded",
-         &LayoutsSession::openMissionControl},
-        {"shelf", "point at the pill: the shelf unfolds", &LayoutsSession::unfoldShelf},
-        {"compose", "click the Halves template", &LayoutsSession::chooseHalves},
-        {"picked", "click Notes into the first slot", &LayoutsSession::pickNotes},
-        {"halves", "click Safari into the second slot", &LayoutsSession::pickSafari},
-        {"snap", "in Mission Control, press Command-Left on Terminal",
-         &LayoutsSession::snapTerminal},
-        {"saved", "click Save current on the shelf", &LayoutsSession::saveCurrent},
-        {"restored", "press Command-1", &LayoutsSession::restoreFirst},
+    const auto step = [this](bool (LayoutsSession::*run)()) {
+        return [this, run] { return (this->*run)(); };
     };
-    rig_.out() << "== a Layouts session on the default scene ==\n";
-    int number = 0;
-    for (const Step& step : steps) {
-        rig_.pause();
-        rig_.out() << ++number << ". " << step.summary << "\n";
-        if (!(this->*step.run)() || !rig_.takePicture(number, step.picture, hovered_)) return 1;
-    }
-    rig_.out() << "  the agent's file log is under " << rig_.home().string() << "\n\n";
-    return 0;
+    return rig_.play(
+        "a Layouts session on the default scene",
+        {
+            {"open", "open Mission Control: the shelf waits folded",
+             step(&LayoutsSession::openMissionControl)},
+            {"shelf", "point at the pill: the shelf unfolds", step(&LayoutsSession::unfoldShelf)},
+            {"compose", "click the Halves template", step(&LayoutsSession::chooseHalves)},
+            {"picked", "click Notes into the first slot", step(&LayoutsSession::pickNotes)},
+            {"halves", "click Safari into the second slot", step(&LayoutsSession::pickSafari)},
+            {"snap", "in Mission Control, press Command-Left on Terminal",
+             step(&LayoutsSession::snapTerminal)},
+            {"saved", "click Save current on the shelf", step(&LayoutsSession::saveCurrent)},
+            {"restored", "press Command-1", step(&LayoutsSession::restoreFirst)},
+        },
+        [this] { return hovered_; });
 }
 
 LayoutsController& LayoutsSession::layouts() {

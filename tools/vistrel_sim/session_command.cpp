@@ -23,12 +23,6 @@ class Session {
     int play();
 
   private:
-    struct Step {
-        std::string_view picture;
-        std::string_view summary;
-        bool (Session::*run)();
-    };
-
     bool openMissionControl() { return rig_.openMissionControl(); }
     bool hover();
     bool clickClose();
@@ -41,23 +35,20 @@ class Session {
 };
 
 int Session::play() {
-    static constexpr Step steps[] = {
-        {"open", "open Mission Control", &Session::openMissionControl},
-        {"hover", "hover the largest thumbnail", &Session::hover},
-        {"close", "click the strip's close button", &Session::clickClose},
-        {"hover", "hover the largest thumbnail left", &Session::hover},
-        {"minimize", "press Command-M", &Session::pressMinimize},
-        {"closed", "press Escape to leave Mission Control", &Session::closeMissionControl},
+    const auto step = [this](bool (Session::*run)()) {
+        return [this, run] { return (this->*run)(); };
     };
-    rig_.out() << "== a Mission Control session on the default scene ==\n";
-    int number = 0;
-    for (const Step& step : steps) {
-        rig_.pause();
-        rig_.out() << ++number << ". " << step.summary << "\n";
-        if (!(this->*step.run)() || !rig_.takePicture(number, step.picture, hovered_)) return 1;
-    }
-    rig_.out() << "  the agent's file log is under " << rig_.home().string() << "\n\n";
-    return 0;
+    return rig_.play("a Mission Control session on the default scene",
+                     {
+                         {"open", "open Mission Control", step(&Session::openMissionControl)},
+                         {"hover", "hover the largest thumbnail", step(&Session::hover)},
+                         {"close", "click the strip's close button", step(&Session::clickClose)},
+                         {"hover", "hover the largest thumbnail left", step(&Session::hover)},
+                         {"minimize", "press Command-M", step(&Session::pressMinimize)},
+                         {"closed", "press Escape to leave Mission Control",
+                          step(&Session::closeMissionControl)},
+                     },
+                     [this] { return hovered_; });
 }
 
 bool Session::hover() {

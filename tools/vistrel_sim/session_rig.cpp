@@ -72,6 +72,19 @@ SessionRig::SessionRig(SimCommandContext& context, std::string_view name)
     desktop_.executor().advance(MissionControlDetector::startDelay);
 }
 
+int SessionRig::play(std::string_view title, const std::vector<Step>& steps,
+                     const std::function<std::optional<SimWindowId>()>& hovered) {
+    context_.out << "== " << title << " ==\n";
+    int number = 0;
+    for (const Step& step : steps) {
+        pause();
+        context_.out << ++number << ". " << step.summary << "\n";
+        if (!step.run() || !takePicture(number, step.picture, hovered())) return 1;
+    }
+    context_.out << "  the agent's file log is under " << home().string() << "\n\n";
+    return 0;
+}
+
 std::filesystem::path SessionRig::home() const {
     return context_.outputDirectory / (name_ + std::string(homeSuffix));
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/platform.h"
 #include "platform/sim/sim_desktop.h"
@@ -67,7 +69,19 @@ class SessionRig {
     // is tested against the new rows.
     static constexpr double userPause = 0.5;
 
+    // One step of a session: what the user does, and the picture taken after it.
+    struct Step {
+        std::string_view picture;
+        std::string_view summary;
+        std::function<bool()> run;
+    };
+
     SessionRig(SimCommandContext& context, std::string_view name);
+
+    // Plays the steps in order, each after the user's pause and followed by its picture
+    // (with `hovered()`'s thumbnail ringed); 1 when a step fails, else 0.
+    int play(std::string_view title, const std::vector<Step>& steps,
+             const std::function<std::optional<SimWindowId>()>& hovered);
 
     SimDesktop& desktop() { return desktop_; }
     Engine& engine() { return *engine_; }
