@@ -1,6 +1,7 @@
 #include "views/badge_controller.h"
 
 #include "views/layouts_ui.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
@@ -12,7 +13,7 @@ void BadgeController::show(int number, Point center) {
     }
     AgentWindow& window = *windows_[shown_];
     const double half = side / 2;
-    window.setFrame(LayoutsUI::toScreen({center.x - half, center.y - half, side, side}), true);
+    window.setFrame(Screens::toAppKit({center.x - half, center.y - half, side, side}), true);
     views_[shown_].configure(number);
     window.orderFrontRegardless();
     ++shown_;

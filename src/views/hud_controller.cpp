@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "views/layouts_ui.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
@@ -35,7 +36,7 @@ void HUDController::present(const std::string& message, std::optional<UnitRect> 
     hideWork_.reset();
     const Size size = HUDView::measure(message, unit.has_value());
     AgentWindow& hud = ensureWindow();
-    hud.setFrame(LayoutsUI::toScreen(centred(size, center)), true);
+    hud.setFrame(Screens::toAppKit(centred(size, center)), true);
     view_.configure(message, unit);
     hud.orderFrontRegardless();
 }

@@ -12,10 +12,4 @@ std::unique_ptr<AgentWindow> LayoutsUI::makeWindow(int level) {
     return window;
 }
 
-Rect LayoutsUI::toScreen(Rect rect) {
-    const auto screens = platform().screens.screens();
-    const double primaryHeight = screens.empty() ? 0 : screens.front().frame.height;
-    return {rect.x, primaryHeight - rect.maxY(), rect.width, rect.height};
-}
-
 }  // namespace vistrel

@@ -16,10 +16,6 @@ struct LayoutsUI {
     // A display-only feedback window at `level`: made at once (not deferred), hidden,
     // ignoring the mouse, on every Space and over full-screen windows.
     static std::unique_ptr<AgentWindow> makeWindow(int level);
-
-    // A rectangle in accessibility coordinates as a window frame in AppKit's, pivoting on
-    // the first screen's height (0 without screens).
-    static Rect toScreen(Rect rect);
 };
 
 }  // namespace vistrel

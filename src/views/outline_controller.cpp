@@ -3,6 +3,7 @@
 #include "platform/display_list.h"
 #include "platform/platform.h"
 #include "views/layouts_ui.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
@@ -53,7 +54,7 @@ void OutlineController::showBars(Rect outlined) {
     const auto frames = barsAround(outlined);
     for (std::size_t i = 0; i < bars_.size(); ++i) {
         AgentWindow& bar = *bars_[i];
-        bar.setFrame(LayoutsUI::toScreen(frames[i]), true);
+        bar.setFrame(Screens::toAppKit(frames[i]), true);
         bar.setContent(solidAccent(frames[i].size()));
         bar.setAlpha(1);
         bar.orderFrontRegardless();

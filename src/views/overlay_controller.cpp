@@ -6,17 +6,11 @@
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
 namespace {
-
-// The height of the first screen, the pivot between accessibility and AppKit coordinates;
-// 0 when there is no screen.
-double primaryScreenHeight() {
-    const auto screens = platform().screens.screens();
-    return screens.empty() ? 0 : screens.front().frame.height;
-}
 
 // The theme the user chose; "classic" when none or an unknown one is stored.
 Theme storedTheme() {
@@ -65,8 +59,7 @@ void OverlayController::show(const OverlayLayout& layout) {
     if (shown_ == layout && window_->isVisible() && window_->isOnActiveSpace()) return;
 
     const Rect frame = unionOfItems(layout);
-    const Rect appKitFrame{frame.minX(), primaryScreenHeight() - frame.maxY(), frame.width,
-                           frame.height};
+    const Rect appKitFrame = Screens::toAppKit(frame);
     view_.configure(viewItems(layout, frame, storedTheme()));
     window_->setFrame(appKitFrame, true);
     window_->orderFrontRegardless();

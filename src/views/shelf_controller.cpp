@@ -4,6 +4,7 @@
 
 #include "diagnostics/log.h"
 #include "views/layouts_ui.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
@@ -51,7 +52,7 @@ void ShelfController::present(const ShelfLayout& layout, const ShelfState& state
         window_->setGlass(radius);
     }
     view_.configure(layout, state, frame.origin());
-    window_->setFrame(LayoutsUI::toScreen(frame), true);
+    window_->setFrame(Screens::toAppKit(frame), true);
     window_->orderFrontRegardless();
 }
 

@@ -47,4 +47,9 @@ Rect Screens::flip(Rect rect, double primaryHeight) {
     return {rect.minX(), primaryHeight - rect.maxY(), rect.width, rect.height};
 }
 
+Rect Screens::toAppKit(Rect rect) {
+    const std::vector<ScreenDescription> screens = platform().screens.screens();
+    return flip(rect, screens.empty() ? 0 : screens.front().frame.height);
+}
+
 }  // namespace vistrel

@@ -26,6 +26,9 @@ struct Screens {
     // Converts a rectangle between AppKit's bottom-left space and accessibility's top-left
     // space; the conversion is its own inverse.
     static Rect flip(Rect rect, double primaryHeight);
+    // An accessibility rectangle as a window frame in AppKit's space, pivoting on the first
+    // screen's height (0 without screens): where the agent puts its own windows.
+    static Rect toAppKit(Rect rect);
 };
 
 }  // namespace vistrel
