@@ -138,6 +138,16 @@ TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBa
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
+TEST_F(EngineRulesTest, ShelfShownUnderThePointWhileItIsLookedUpWinsOverTheStrip) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    desktop.eventTap().deliver(SimInput::mouseMoved(point));
+    layouts.shelf = Rect{point.x - 50, point.y - 20, 100, 40};
+    settle();
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
 TEST_F(EngineRulesTest, HoveringAWindowOfTheDockShowsNoStrip) {
     openMissionControl();
     auto& ax = desktop.accessibility();
@@ -150,6 +160,16 @@ TEST_F(EngineRulesTest, HoveringAWindowOfTheDockShowsNoStrip) {
     move(inside(thumbOf("Notes")));
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
+TEST_F(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    move(point);
+    ASSERT_TRUE(engine->target());
+    const std::size_t hitTests = desktop.accessibility().hitTests();
+    move(point);
+    EXPECT_EQ(desktop.accessibility().hitTests(), hitTests);
 }
 
 TEST_F(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {

@@ -7,8 +7,8 @@
 
 namespace vistrel::testing {
 
-// A Layouts feature that stays out of the way unless a test tells it otherwise: it never
-// shows a shelf, and it lets the test claim the pointer and report moved windows at will.
+// A Layouts feature that stays out of the way unless a test tells it otherwise: it shows
+// no shelf until told to, and it lets the test claim the pointer and report moved windows at will.
 class FakeEngineLayouts : public EngineLayouts {
   public:
     void missionControlOpened() override {}
@@ -30,7 +30,7 @@ class FakeEngineLayouts : public EngineLayouts {
     void finishCompose() override {}
     void cancelCompose() override {}
 
-    std::optional<Rect> shelfFrame() const override { return std::nullopt; }
+    std::optional<Rect> shelfFrame() const override { return shelf; }
     bool optionHeld() const override { return false; }
     void setOptionHeld(bool) override {}
 
@@ -40,6 +40,8 @@ class FakeEngineLayouts : public EngineLayouts {
 
     // While set, the shelf takes every pointer move for itself.
     bool claimsPointer = false;
+    // Where the shelf is shown, if it is.
+    std::optional<Rect> shelf;
     std::function<void()> onWindowsMoved;
 };
 
