@@ -3,13 +3,16 @@
 #include <cstdint>
 
 #include "platform/accessibility.h"
+#include "platform/agent_application.h"
 #include "platform/defaults.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
 #include "platform/login_item.h"
+#include "platform/notification_center.h"
 #include "platform/screen_list.h"
 #include "platform/system_log.h"
 #include "platform/text_measurer.h"
+#include "platform/updater.h"
 #include "platform/window_host.h"
 #include "platform/window_server.h"
 #include "platform/workspace.h"
@@ -33,6 +36,9 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    NotificationCenter& notifications;
+    UpdateService& updates;
+    AgentApplication& application;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

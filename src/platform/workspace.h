@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/defaults_value.h"
 #include "platform/process.h"
 
 namespace vistrel {
@@ -78,6 +79,10 @@ class Workspace {
     virtual Pid ownPid() = 0;
     // Bundle.main.
     virtual BundleInfo mainBundle() = 0;
+    // Bundle.main.object(forInfoDictionaryKey:): nothing (isNone) when the key is absent.
+    virtual DefaultsValue infoValue(const std::string& key) = 0;
+    // Bundle(path:)?.bundleIdentifier: nothing when no bundle or no identifier is there.
+    virtual std::optional<std::string> bundleIdentifier(const std::string& bundlePath) = 0;
 };
 
 }  // namespace vistrel

@@ -42,7 +42,10 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .systemLog = log,
                 .loginItem = desktop.platform().loginItem,
                 .windowHost = desktop.platform().windowHost,
-                .text = desktop.platform().text} {
+                .text = desktop.platform().text,
+                .notifications = desktop.platform().notifications,
+                .updates = desktop.platform().updates,
+                .application = desktop.platform().application} {
     installPlatform(&platform_);
 }
 

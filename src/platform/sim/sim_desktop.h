@@ -8,6 +8,7 @@
 
 #include "platform/platform.h"
 #include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_agent_application.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
 #include "platform/sim/sim_dock.h"
@@ -16,8 +17,10 @@
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_model.h"
+#include "platform/sim/sim_notification_center.h"
 #include "platform/sim/sim_system_log.h"
 #include "platform/sim/sim_text_measurer.h"
+#include "platform/sim/sim_updater.h"
 #include "platform/sim/sim_window_host.h"
 #include "platform/sim/sim_window_server.h"
 #include "platform/sim/sim_workspace.h"
@@ -54,6 +57,9 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    SimNotificationCenter& notifications() { return notifications_; }
+    SimUpdateService& updates() { return updates_; }
+    SimAgentApplication& application() { return application_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -108,6 +114,9 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimNotificationCenter notifications_{executor_};
+    SimUpdateService updates_;
+    SimAgentApplication application_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};
