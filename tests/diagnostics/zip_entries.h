@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace vistrel::testing {
+
+// Every entry of a zip archive by name ("folder/" for folders) with its bytes, read with
+// libzip's reading side, independently of how the archive was written. Empty when the
+// file is not a readable zip archive.
+std::map<std::string, std::string> zipEntries(const std::filesystem::path& archive);
+
+}  // namespace vistrel::testing
