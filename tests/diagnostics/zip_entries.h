@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace vistrel::testing {
@@ -10,5 +11,9 @@ namespace vistrel::testing {
 // libzip's reading side, independently of how the archive was written. Empty when the
 // file is not a readable zip archive.
 std::map<std::string, std::string> zipEntries(const std::filesystem::path& archive);
+
+// The bytes of the file named `name` inside the archive's top folder, if it is there.
+std::optional<std::string> fileInReport(const std::filesystem::path& archive,
+                                        const std::string& name);
 
 }  // namespace vistrel::testing

@@ -62,7 +62,8 @@ FileError SimFileSystem::writeAtomically(const std::string& file, std::string_vi
 }
 
 FileError SimFileSystem::copy(const std::string& from, const std::string& to) {
-    if (copyFailure) return copyFailure;
+    if (const auto failure = copyFailures.find(to); failure != copyFailures.end())
+        return failure->second;
     std::error_code error;
     fs::copy_file(from, to, fs::copy_options::none, error);
     return describe(error);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -25,7 +26,8 @@ class SimFileSystem : public FileSystem {
     // Failures to answer with instead of doing the step.
     bool failTemporaryFolder = false;
     FileError writeFailure;
-    FileError copyFailure;
+    // Copies to these destinations fail with the description given.
+    std::map<std::string, std::string> copyFailures;
 };
 
 }  // namespace vistrel
