@@ -8,8 +8,7 @@
 namespace vistrel::testing {
 
 // Every entry of a zip archive by name ("folder/" for folders) with its bytes, read with
-// libzip's reading side, independently of how the archive was written. Empty when the
-// file is not a readable zip archive.
+// libzip's reading side, independently of how the archive was written.
 std::map<std::string, std::string> zipEntries(const std::filesystem::path& archive);
 
 // The bytes of the file named `name` inside the archive's top folder, if it is there.
