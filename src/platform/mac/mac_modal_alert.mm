@@ -6,6 +6,10 @@
 
 namespace vistrel {
 
+void bringAgentForward() {
+    [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+}
+
 NSAlert* makeAlert(const AlertContent& content) {
     NSAlert* alert = [[NSAlert alloc] init];
     alert.messageText = nsString(content.title);
@@ -16,7 +20,7 @@ NSAlert* makeAlert(const AlertContent& content) {
 }
 
 std::size_t runAlert(NSAlert* alert) {
-    [NSApp activateIgnoringOtherApps:YES];
+    bringAgentForward();
     const NSModalResponse response = [alert runModal];
     if (response < NSAlertFirstButtonReturn) return 0;
     return static_cast<std::size_t>(response - NSAlertFirstButtonReturn);

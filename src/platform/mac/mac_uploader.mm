@@ -1,17 +1,24 @@
 #include "platform/mac/mac_uploader.h"
 
+#import <Foundation/Foundation.h>
+#include <dispatch/dispatch.h>
+
 #include <memory>
 
 #include "platform/mac/mac_strings.h"
 
 namespace vistrel {
 
+namespace {
+constexpr char failureQueueLabel[] = "com.quillmarsh.vistrel.upload-failure";
+}  // namespace
+
 void MacUploader::upload(const UploadRequest& request, Completion completion) {
     auto done = std::make_shared<Completion>(std::move(completion));
     NSURL* url = [NSURL URLWithString:nsString(request.url)];
     if (url == nil) {
         // Still off the main thread, as a session would answer.
-        dispatch_async(dispatch_get_global_queue(QOS_CLASS_UTILITY, 0), ^{
+        dispatch_async(dispatch_queue_create(failureQueueLabel, DISPATCH_QUEUE_SERIAL), ^{
           (*done)({std::string("unsupported URL"), 0, ""});
         });
         return;
