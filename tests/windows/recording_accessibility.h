@@ -35,7 +35,15 @@ class RecordingAccessibility : public Accessibility {
                      .text = inner.text,
                      .notifications = inner.notifications,
                      .updates = inner.updates,
-                     .application = inner.application} {
+                     .application = inner.application,
+                     .systemInfo = inner.systemInfo,
+                     .infoDictionary = inner.infoDictionary,
+                     .files = inner.files,
+                     .alert = inner.alert,
+                     .reportDialog = inner.reportDialog,
+                     .savePanel = inner.savePanel,
+                     .archiver = inner.archiver,
+                     .uploader = inner.uploader} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

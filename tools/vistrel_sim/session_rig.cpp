@@ -45,7 +45,15 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .text = desktop.platform().text,
                 .notifications = desktop.platform().notifications,
                 .updates = desktop.platform().updates,
-                .application = desktop.platform().application} {
+                .application = desktop.platform().application,
+                .systemInfo = desktop.platform().systemInfo,
+                .infoDictionary = desktop.platform().infoDictionary,
+                .files = desktop.platform().files,
+                .alert = desktop.platform().alert,
+                .reportDialog = desktop.platform().reportDialog,
+                .savePanel = desktop.platform().savePanel,
+                .archiver = desktop.platform().archiver,
+                .uploader = desktop.platform().uploader} {
     installPlatform(&platform_);
 }
 

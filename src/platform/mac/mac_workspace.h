@@ -32,6 +32,7 @@ class MacScreenList : public ScreenList {
   public:
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
+    bool screensHaveSeparateSpaces() override;
 };
 
 }  // namespace vistrel

@@ -151,4 +151,8 @@ std::optional<std::size_t> SimScreenList::mainScreenIndex() {
     return std::nullopt;
 }
 
+bool SimScreenList::screensHaveSeparateSpaces() {
+    return desktop_.separateSpaces;
+}
+
 }  // namespace vistrel

@@ -60,6 +60,7 @@ class SimScreenList : public ScreenList {
     explicit SimScreenList(SimDesktop& desktop) : desktop_(desktop) {}
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
+    bool screensHaveSeparateSpaces() override;
 
   private:
     SimDesktop& desktop_;
