@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "platform/canvas.h"
-#include "platform/defaults_value.h"
 #include "platform/process.h"
 
 namespace vistrel {
@@ -79,8 +78,6 @@ class Workspace {
     virtual Pid ownPid() = 0;
     // Bundle.main.
     virtual BundleInfo mainBundle() = 0;
-    // Bundle.main.object(forInfoDictionaryKey:): nothing (isNone) when the key is absent.
-    virtual DefaultsValue infoValue(const std::string& key) = 0;
     // Bundle(path:)?.bundleIdentifier: nothing when no bundle or no identifier is there.
     virtual std::optional<std::string> bundleIdentifier(const std::string& bundlePath) = 0;
 };

@@ -17,8 +17,7 @@ constexpr std::string_view checking = "updates: checking ";
 constexpr std::string_view installsAutomaticallyLine = "updates: install automatically ";
 
 bool hasPublicKey() {
-    const auto key =
-        platform().workspace.infoValue(std::string(Updates::publicKeyInfoKey)).string();
+    const auto key = platform().infoDictionary.string(std::string(Updates::publicKeyInfoKey));
     return key && key->size() == Updates::publicKeyLength;
 }
 

@@ -109,7 +109,7 @@ TEST_F(CommandChannelTest, SetLaunchAtLoginWithAValueThatIsNotABooleanTurnsItOff
 }
 
 TEST_F(CommandChannelTest, CheckForUpdatesBringsTheAgentToTheFrontThenChecks) {
-    desktop.workspace().infoDictionary[std::string(Updates::publicKeyInfoKey)] =
+    desktop.infoDictionary().values[std::string(Updates::publicKeyInfoKey)] =
         std::string(Updates::publicKeyLength, 'k');
     channel.listen();
     post(command("checkForUpdates"));

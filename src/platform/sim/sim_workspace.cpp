@@ -129,11 +129,6 @@ BundleInfo SimWorkspace::mainBundle() {
     return desktop_.bundle;
 }
 
-DefaultsValue SimWorkspace::infoValue(const std::string& key) {
-    auto found = infoDictionary.find(key);
-    return found == infoDictionary.end() ? DefaultsValue() : found->second;
-}
-
 std::optional<std::string> SimWorkspace::bundleIdentifier(const std::string& bundlePath) {
     const SimInstalledApplication* installed = desktop_.installations().at(bundlePath);
     if (installed == nullptr) return std::nullopt;

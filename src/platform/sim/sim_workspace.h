@@ -34,7 +34,6 @@ class SimWorkspace : public Workspace {
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
-    DefaultsValue infoValue(const std::string& key) override;
     std::optional<std::string> bundleIdentifier(const std::string& bundlePath) override;
 
     // Installed applications by bundle identifier: where each one lives.
@@ -47,8 +46,6 @@ class SimWorkspace : public Workspace {
     std::vector<std::pair<std::string, OpenConfiguration>> launchRequests;
     // Every openApplication call, with its configuration.
     std::vector<std::pair<std::string, OpenConfiguration>> openRequests;
-    // The main bundle's information dictionary.
-    std::map<std::string, DefaultsValue> infoDictionary;
 
   private:
     SimDesktop& desktop_;
