@@ -176,6 +176,10 @@ BundleInfo MacWorkspace::mainBundle() {
             text(info[@"CFBundleVersion"]).value_or(""), text(bundle.bundlePath).value_or("")};
 }
 
+std::optional<std::string> MacWorkspace::bundleIdentifier(const std::string& bundlePath) {
+    return text([NSBundle bundleWithPath:ns(bundlePath)].bundleIdentifier);
+}
+
 std::vector<ScreenDescription> MacScreenList::screens() {
     std::vector<ScreenDescription> result;
     for (NSScreen* screen in NSScreen.screens) {
