@@ -6,6 +6,7 @@
 #include "platform/defaults.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
+#include "platform/font_registrar.h"
 #include "platform/login_item.h"
 #include "platform/screen_list.h"
 #include "platform/system_log.h"
@@ -33,6 +34,7 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    FontRegistrar& fonts;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

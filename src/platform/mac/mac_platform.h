@@ -4,6 +4,7 @@
 #include "platform/mac/mac_defaults.h"
 #include "platform/mac/mac_event_tap_port.h"
 #include "platform/mac/mac_executor.h"
+#include "platform/mac/mac_font_registrar.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_system_log.h"
 #include "platform/mac/mac_text.h"
@@ -19,8 +20,9 @@ namespace vistrel {
 class MacPlatform {
   public:
     MacPlatform()
-        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,   eventTap_,
-                    executor_,      clock_,        systemLog_, loginItem_, windowHost_, text_} {}
+        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,
+                    eventTap_,      executor_,     clock_,     systemLog_, loginItem_,
+                    windowHost_,    text_,         fonts_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -39,6 +41,7 @@ class MacPlatform {
     MacLoginItem loginItem_;
     MacWindowHost windowHost_;
     MacTextMeasurer text_;
+    MacFontRegistrar fonts_;
     Platform platform_;
 };
 

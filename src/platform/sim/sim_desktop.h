@@ -13,6 +13,7 @@
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_font_registrar.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_model.h"
@@ -54,6 +55,7 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    SimFontRegistrar& fonts() { return fonts_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -108,6 +110,7 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimFontRegistrar fonts_{bundle.path};
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};
