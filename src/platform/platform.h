@@ -10,6 +10,7 @@
 #include "platform/executor.h"
 #include "platform/file_system.h"
 #include "platform/info_dictionary.h"
+#include "platform/font_registrar.h"
 #include "platform/login_item.h"
 #include "platform/modal_alert.h"
 #include "platform/notification_center.h"
@@ -55,6 +56,7 @@ struct Platform {
     SavePanel& savePanel;
     Archiver& archiver;
     Uploader& uploader;
+    FontRegistrar& fonts;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

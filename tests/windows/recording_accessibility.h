@@ -43,7 +43,8 @@ class RecordingAccessibility : public Accessibility {
                      .reportDialog = inner.reportDialog,
                      .savePanel = inner.savePanel,
                      .archiver = inner.archiver,
-                     .uploader = inner.uploader} {
+                     .uploader = inner.uploader,
+                     .fonts = inner.fonts} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

@@ -53,7 +53,8 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .reportDialog = desktop.platform().reportDialog,
                 .savePanel = desktop.platform().savePanel,
                 .archiver = desktop.platform().archiver,
-                .uploader = desktop.platform().uploader} {
+                .uploader = desktop.platform().uploader,
+                .fonts = desktop.platform().fonts} {
     installPlatform(&platform_);
 }
 

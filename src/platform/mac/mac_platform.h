@@ -7,6 +7,7 @@
 #include "platform/mac/mac_event_tap_port.h"
 #include "platform/mac/mac_executor.h"
 #include "platform/mac/mac_file_system.h"
+#include "platform/mac/mac_font_registrar.h"
 #include "platform/mac/mac_info_dictionary.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_modal_alert.h"
@@ -52,7 +53,8 @@ class MacPlatform {
                     .reportDialog = reportDialog_,
                     .savePanel = savePanel_,
                     .archiver = archiver_,
-                    .uploader = uploader_} {}
+                    .uploader = uploader_,
+                    .fonts = fonts_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -82,6 +84,7 @@ class MacPlatform {
     MacSavePanel savePanel_;
     MacArchiver archiver_;
     MacUploader uploader_;
+    MacFontRegistrar fonts_;
     Platform platform_;
 };
 

@@ -50,7 +50,8 @@ SimDesktop::SimDesktop()
                 .reportDialog = reportDialog_,
                 .savePanel = savePanel_,
                 .archiver = archiver_,
-                .uploader = uploader_},
+                .uploader = uploader_,
+                .fonts = fonts_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

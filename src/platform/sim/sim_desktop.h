@@ -17,6 +17,7 @@
 #include "platform/sim/sim_executor.h"
 #include "platform/sim/sim_file_system.h"
 #include "platform/sim/sim_info_dictionary.h"
+#include "platform/sim/sim_font_registrar.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_modal_alert.h"
@@ -76,6 +77,7 @@ class SimDesktop {
     SimSavePanel& savePanel() { return savePanel_; }
     SimArchiver& archiver() { return archiver_; }
     SimUploader& uploader() { return uploader_; }
+    SimFontRegistrar& fonts() { return fonts_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -143,6 +145,7 @@ class SimDesktop {
     SimSavePanel savePanel_;
     SimArchiver archiver_;
     SimUploader uploader_;
+    SimFontRegistrar fonts_{bundle.path};
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};
