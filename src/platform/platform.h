@@ -3,11 +3,17 @@
 #include <cstdint>
 
 #include "platform/accessibility.h"
+#include "platform/agent_application.h"
+#include "platform/appearance.h"
 #include "platform/defaults.h"
+#include "platform/event_monitors.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
+#include "platform/key_panel.h"
 #include "platform/login_item.h"
+#include "platform/native_menu.h"
 #include "platform/screen_list.h"
+#include "platform/status_bar.h"
 #include "platform/system_log.h"
 #include "platform/text_measurer.h"
 #include "platform/window_host.h"
@@ -33,6 +39,12 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    StatusBar& statusBar;
+    KeyPanelHost& panels;
+    EventMonitors& eventMonitors;
+    NativeMenus& menus;
+    SystemAppearance& appearance;
+    AgentApplication& application;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

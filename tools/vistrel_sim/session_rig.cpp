@@ -42,7 +42,13 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .systemLog = log,
                 .loginItem = desktop.platform().loginItem,
                 .windowHost = desktop.platform().windowHost,
-                .text = desktop.platform().text} {
+                .text = desktop.platform().text,
+                .statusBar = desktop.platform().statusBar,
+                .panels = desktop.platform().panels,
+                .eventMonitors = desktop.platform().eventMonitors,
+                .menus = desktop.platform().menus,
+                .appearance = desktop.platform().appearance,
+                .application = desktop.platform().application} {
     installPlatform(&platform_);
 }
 

@@ -22,8 +22,10 @@ SimDesktop::SimDesktop()
       workspace_(*this),
       defaults_(bundle.identifier),
       screenList_(*this),
-      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,   eventTap_,
-                executor_,      clock_,        systemLog_, loginItem_,  windowHost_, text_},
+      platform_{accessibility_, windowServer_, workspace_,  screenList_, defaults_,
+                eventTap_,      executor_,     clock_,      systemLog_,  loginItem_,
+                windowHost_,    text_,         statusBar_,  panels_,     eventMonitors_,
+                menus_,         appearance_,   application_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

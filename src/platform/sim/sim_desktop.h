@@ -8,14 +8,19 @@
 
 #include "platform/platform.h"
 #include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_appearance.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
 #include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_event_monitors.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
 #include "platform/sim/sim_installations.h"
+#include "platform/sim/sim_key_panel.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_model.h"
+#include "platform/sim/sim_native_menus.h"
+#include "platform/sim/sim_status_bar.h"
 #include "platform/sim/sim_system_log.h"
 #include "platform/sim/sim_text_measurer.h"
 #include "platform/sim/sim_window_host.h"
@@ -54,6 +59,14 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    // The menu bar's status items, the agent's key panels, event monitors, native menus,
+    // the system appearance and the agent's application object.
+    SimStatusBar& statusBar() { return statusBar_; }
+    SimKeyPanelHost& panels() { return panels_; }
+    SimEventMonitors& eventMonitors() { return eventMonitors_; }
+    SimNativeMenus& menus() { return menus_; }
+    SimAppearance& appearance() { return appearance_; }
+    SimAgentApplication& application() { return application_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -108,6 +121,12 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimStatusBar statusBar_{*this};
+    SimKeyPanelHost panels_;
+    SimEventMonitors eventMonitors_;
+    SimNativeMenus menus_;
+    SimAppearance appearance_;
+    SimAgentApplication application_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

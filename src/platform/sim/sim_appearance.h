@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "platform/agent_application.h"
+#include "platform/appearance.h"
+
+namespace vistrel {
+
+// The simulated system appearance: light until a test switches it.
+class SimAppearance : public SystemAppearance {
+  public:
+    Appearance current() override { return appearance_; }
+    std::uint64_t observe(Observer observer) override;
+    void stopObserving(std::uint64_t token) override { observers_.erase(token); }
+
+    // Switches the system's appearance and tells every observer.
+    void set(Appearance appearance);
+    std::size_t observers() const { return observers_.size(); }
+    // When set, observing fails.
+    bool failObserving = false;
+
+  private:
+    Appearance appearance_ = Appearance::light;
+    std::uint64_t next_ = 1;
+    std::map<std::uint64_t, Observer> observers_;
+};
+
+// The agent's own application object in the simulation.
+class SimAgentApplication : public AgentApplication {
+  public:
+    void terminate() override { terminated_ = true; }
+    void activate() override { ++activations_; }
+    bool terminated() const { return terminated_; }
+    int activations() const { return activations_; }
+
+  private:
+    bool terminated_ = false;
+    int activations_ = 0;
+};
+
+}  // namespace vistrel
