@@ -1,0 +1,22 @@
+#include "ui/kit/dfkit_icon_button.h"
+
+#include "ui/kit/dfkit_palette.h"
+
+namespace vistrel {
+
+namespace {
+constexpr double cornerRadius = 6;
+}  // namespace
+
+DFKitIconButton::DFKitIconButton(DFKitGlyph glyph, std::string label, std::function<void()> action)
+    : DFKitControl(label, std::move(action)), glyph_(glyph), label_(std::move(label)) {}
+
+void DFKitIconButton::draw(Canvas& canvas, Appearance appearance) const {
+    if (hovered() || pressed())
+        canvas.fill(Path::roundedRect(bounds(), cornerRadius), DFKit::chip.resolved(appearance));
+    const Rect glyph{bounds().midX() - glyphSize / 2, bounds().midY() - glyphSize / 2, glyphSize,
+                     glyphSize};
+    drawGlyph(canvas, glyph_, glyph, DFKit::ink.resolved(appearance));
+}
+
+}  // namespace vistrel

@@ -1,0 +1,39 @@
+#include "ui/kit/dfkit_menu_row.h"
+
+#include "ui/kit/dfkit_palette.h"
+
+namespace vistrel {
+
+namespace {
+constexpr double fontSize = 13;
+constexpr double shortcutFontSize = 12;
+constexpr double cornerRadius = 6;
+}  // namespace
+
+DFKitMenuRow::DFKitMenuRow(DFKitGlyph glyph, std::string title, std::optional<std::string> shortcut,
+                           std::function<void()> action)
+    : DFKitControl(title, std::move(action)),
+      glyph_(glyph),
+      title_{std::move(title), Font::system(fontSize), DFKit::ink} {
+    if (shortcut) shortcut_ = DFKitText{*shortcut, Font::system(shortcutFontSize), DFKit::inkMuted};
+}
+
+std::optional<std::string> DFKitMenuRow::shortcut() const {
+    if (!shortcut_) return std::nullopt;
+    return shortcut_->string;
+}
+
+void DFKitMenuRow::draw(Canvas& canvas, Appearance appearance) const {
+    if (hovered() || pressed())
+        canvas.fill(Path::roundedRect(bounds(), cornerRadius), DFKit::chip.resolved(appearance));
+    const double midY = bounds().midY();
+    drawGlyph(canvas, glyph_, {glyphX, midY - glyphSize / 2, glyphSize, glyphSize},
+              DFKit::ink.resolved(appearance));
+    title_.draw(canvas, appearance, titleX, midY);
+    if (shortcut_) {
+        const double width = shortcut_->measure().width;
+        shortcut_->draw(canvas, appearance, bounds().width - shortcutInset - width, midY);
+    }
+}
+
+}  // namespace vistrel
