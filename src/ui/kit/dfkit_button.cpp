@@ -11,13 +11,13 @@ constexpr double pressedDarkening = 0.15;
 }  // namespace
 
 DFKitButton::DFKitButton(std::string title, Variant variant, double height,
-                         std::function<void()> action, double leadingInset)
+                         std::function<void()> action, DFKitMargins margins)
     : DFKitControl(title, std::move(action)),
       title_{std::move(title), Font::system(fontSize, FontWeight::medium),
              variant == Variant::primary ? DFKit::onIndigo : DFKit::ink},
       variant_(variant),
       height_(height),
-      leadingInset_(leadingInset) {}
+      margins_(margins) {}
 
 Size DFKitButton::sizeThatFits(double) const {
     return {title_.measure().width + 2 * titlePadding, height_};

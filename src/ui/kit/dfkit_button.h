@@ -14,20 +14,21 @@ class DFKitButton : public DFKitControl {
     static constexpr double fontSize = 12;
 
     DFKitButton(std::string title, Variant variant, double height, std::function<void()> action,
-                double leadingInset = 0);
+                DFKitMargins margins = {});
 
     const std::string& title() const { return title_.string; }
     Variant variant() const { return variant_; }
 
     Size sizeThatFits(double) const override;
-    double leadingInset() const override { return leadingInset_; }
+    double leadingInset() const override { return margins_.leading; }
+    double bottomMargin() const override { return margins_.bottom; }
     void draw(Canvas& canvas, Appearance appearance) const override;
 
   private:
     DFKitText title_;
     Variant variant_;
     double height_;
-    double leadingInset_;
+    DFKitMargins margins_;
 };
 
 }  // namespace vistrel

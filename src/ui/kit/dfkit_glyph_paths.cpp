@@ -76,6 +76,17 @@ Path eye() {
         .path();
 }
 
+// A circle running clockwise from the right round to the top, where it ends in an arrowhead
+// heading on, the way "reload" is drawn.
+Path refresh() {
+    constexpr double radius = 7.5, from = 0, to = 290;
+    constexpr double degree = std::numbers::pi / 180;
+    const Point tip{centre.x + radius * std::cos(to * degree),
+                    centre.y + radius * std::sin(to * degree)};
+    // Moving clockwise, the line heads a quarter turn on from the angle it is at.
+    return GlyphPen().arc(centre, radius, from, to).arrowhead(tip, to + 90, 4.5).path();
+}
+
 Path spark() {
     return Path()
         .moveTo({12, 3})
@@ -290,12 +301,7 @@ Path glyphPath(DFKitGlyph glyph) {
         case DFKitGlyph::power:
             return GlyphPen().arc({12, 13}, 7.5, -60, 240).polyline({{12, 3}, {12, 11}}).path();
         case DFKitGlyph::refresh:
-            return GlyphPen()
-                .arc(centre, 7.5, -80, 200)
-                .arrowhead({12 + 7.5 * std::cos(200 * std::numbers::pi / 180),
-                            12 + 7.5 * std::sin(200 * std::numbers::pi / 180)},
-                           200 + 90, 4.5)
-                .path();
+            return refresh();
         case DFKitGlyph::search:
             return GlyphPen().circle({10.5, 10.5}, 6.5).polyline({{15.3, 15.3}, {20, 20}}).path();
         case DFKitGlyph::share:

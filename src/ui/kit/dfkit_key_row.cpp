@@ -10,8 +10,8 @@ namespace {
 constexpr double keysFontSize = 12;
 constexpr double titleFontSize = 13;
 constexpr double capHeight = 20;
-constexpr double capPadding = 6;
-constexpr double capMinWidth = 30;
+constexpr double capPadding = 4;
+constexpr double capMinWidth = 28;
 constexpr double capRadius = 5;
 }  // namespace
 
@@ -23,7 +23,7 @@ DFKitKeyRow::DFKitKeyRow(std::string keys, std::string title, std::unique_ptr<DF
 }
 
 Rect DFKitKeyRow::capRect() const {
-    const double width = std::max(capMinWidth, keys_.measure().width + 2 * capPadding);
+    const double width = std::max(capMinWidth, keys_.width() + 2 * capPadding);
     return {capsInset, (bounds().height - capHeight) / 2, width, capHeight};
 }
 
@@ -35,9 +35,9 @@ void DFKitKeyRow::layout() {
 void DFKitKeyRow::draw(Canvas& canvas, Appearance appearance) const {
     const Rect cap = capRect();
     canvas.fill(Path::roundedRect(cap, capRadius), DFKit::chip.resolved(appearance));
-    const double keysWidth = keys_.measure().width;
-    keys_.draw(canvas, appearance, cap.midX() - keysWidth / 2, cap.midY());
-    title_.draw(canvas, appearance, titleX, bounds().midY());
+    keys_.draw(canvas, appearance, cap.midX() - keys_.width() / 2, cap.midY());
+    title_.fitted(switchOrigin.x - titleGap - titleX)
+        .draw(canvas, appearance, titleX, bounds().midY());
 }
 
 void DFKitKeyRow::mouseUp(Point point) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "ui/kit/dfkit_key_text.h"
 #include "ui/kit/dfkit_switch.h"
 #include "ui/kit/dfkit_text.h"
 #include "ui/kit/dfkit_view.h"
@@ -16,11 +17,13 @@ class DFKitKeyRow : public DFKitView {
     static constexpr Size size{284, 30};
     static constexpr Point switchOrigin{240, 4};
     static constexpr double capsInset = 8;
-    static constexpr double titleX = 62;
+    static constexpr double titleX = 58;
+    // Room kept between the title and the switch.
+    static constexpr double titleGap = 8;
 
     DFKitKeyRow(std::string keys, std::string title, std::unique_ptr<DFKitSwitch> toggle);
 
-    const std::string& keys() const { return keys_.string; }
+    const std::string& keys() const { return keys_.string(); }
     const std::string& title() const { return title_.string; }
     DFKitSwitch& toggle() const { return *toggle_; }
     Rect capRect() const;
@@ -35,7 +38,7 @@ class DFKitKeyRow : public DFKitView {
     void layout() override;
 
   private:
-    DFKitText keys_;
+    DFKitKeyText keys_;
     DFKitText title_;
     std::unique_ptr<DFKitSwitch> toggle_;
 };

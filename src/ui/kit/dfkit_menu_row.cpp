@@ -15,12 +15,12 @@ DFKitMenuRow::DFKitMenuRow(DFKitGlyph glyph, std::string title, std::optional<st
     : DFKitControl(title, std::move(action)),
       glyph_(glyph),
       title_{std::move(title), Font::system(fontSize), DFKit::ink} {
-    if (shortcut) shortcut_ = DFKitText{*shortcut, Font::system(shortcutFontSize), DFKit::inkMuted};
+    if (shortcut) shortcut_.emplace(*shortcut, Font::system(shortcutFontSize), DFKit::inkMuted);
 }
 
 std::optional<std::string> DFKitMenuRow::shortcut() const {
     if (!shortcut_) return std::nullopt;
-    return shortcut_->string;
+    return shortcut_->string();
 }
 
 void DFKitMenuRow::draw(Canvas& canvas, Appearance appearance) const {
@@ -29,10 +29,12 @@ void DFKitMenuRow::draw(Canvas& canvas, Appearance appearance) const {
     const double midY = bounds().midY();
     drawGlyph(canvas, glyph_, {glyphX, midY - glyphSize / 2, glyphSize, glyphSize},
               DFKit::ink.resolved(appearance));
-    title_.draw(canvas, appearance, titleX, midY);
+    const double shortcutWidth = shortcut_ ? shortcut_->width() + shortcutInset : 0;
+    title_.fitted(bounds().width - titleX - shortcutInset - shortcutWidth)
+        .draw(canvas, appearance, titleX, midY);
     if (shortcut_) {
-        const double width = shortcut_->measure().width;
-        shortcut_->draw(canvas, appearance, bounds().width - shortcutInset - width, midY);
+        shortcut_->draw(canvas, appearance, bounds().width - shortcutInset - shortcut_->width(),
+                        midY);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "ui/kit/dfkit_control.h"
 #include "ui/kit/dfkit_glyph.h"
+#include "ui/kit/dfkit_key_text.h"
 #include "ui/kit/dfkit_text.h"
 
 namespace vistrel {
@@ -31,7 +32,7 @@ class DFKitMenuRow : public DFKitControl {
   private:
     DFKitGlyph glyph_;
     DFKitText title_;
-    std::optional<DFKitText> shortcut_;
+    std::optional<DFKitKeyText> shortcut_;
 };
 
 }  // namespace vistrel

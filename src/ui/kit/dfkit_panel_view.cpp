@@ -22,7 +22,7 @@ DFKitViews DFKitPanelView::setRows(DFKitViews rows) {
 Size DFKitPanelView::sizeThatFits(double) const {
     double height = 2 * margin;
     for (const auto& row : rows_)
-        height += row->sizeThatFits(rowWidth).height;
+        height += row->sizeThatFits(rowWidth).height + row->bottomMargin();
     return {rowWidth + 2 * margin, height};
 }
 
@@ -31,7 +31,7 @@ void DFKitPanelView::layout() {
     for (const auto& row : rows_) {
         const Size size = row->sizeThatFits(rowWidth);
         row->setFrame({margin + row->leadingInset(), y, size.width, size.height});
-        y += size.height;
+        y += size.height + row->bottomMargin();
     }
 }
 

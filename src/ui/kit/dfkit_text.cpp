@@ -1,6 +1,7 @@
 #include "ui/kit/dfkit_text.h"
 
 #include <sstream>
+#include <string_view>
 
 #include "platform/platform.h"
 
@@ -13,6 +14,25 @@ TextMetrics DFKitText::measure() const {
 void DFKitText::draw(Canvas& canvas, Appearance appearance, double x, double midY) const {
     const TextMetrics metrics = measure();
     canvas.drawText(run(appearance), {x, midY + (metrics.ascent - metrics.descent) / 2});
+}
+
+DFKitText DFKitText::fitted(double width) const {
+    if (measure().width <= width) return *this;
+    static constexpr std::string_view ellipsis = "…";
+    DFKitText cut = *this;
+    std::string kept = string;
+    while (!kept.empty()) {
+        // Drop one whole UTF-8 character: its continuation bytes, then its lead byte.
+        while (!kept.empty() && (static_cast<unsigned char>(kept.back()) & 0xC0) == 0x80)
+            kept.pop_back();
+        if (!kept.empty()) kept.pop_back();
+        while (!kept.empty() && kept.back() == ' ')
+            kept.pop_back();
+        cut.string = kept + std::string(ellipsis);
+        if (cut.measure().width <= width) return cut;
+    }
+    cut.string = std::string(ellipsis);
+    return cut;
 }
 
 std::vector<std::string> DFKitText::wrapped(double width) const {

@@ -24,6 +24,8 @@ struct DFKitText {
     TextMetrics measure() const;
     // Draws the text with its left end at `x`, centred on the line `midY`.
     void draw(Canvas& canvas, Appearance appearance, double x, double midY) const;
+    // The text cut short with an ellipsis so that it fits `width`; itself when it fits.
+    DFKitText fitted(double width) const;
     // The text broken at spaces into lines no wider than `width` (a word longer than the
     // width stands on a line of its own).
     std::vector<std::string> wrapped(double width) const;

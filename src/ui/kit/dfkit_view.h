@@ -12,6 +12,13 @@ namespace vistrel {
 
 class DFKitView;
 
+// Where a view sits in a stack of rows: how far in from the leading edge, and how much
+// room it keeps below.
+struct DFKitMargins {
+    double leading = 0;
+    double bottom = 0;
+};
+
 // Where a view's changes go: the window that shows it redraws, and tells assistive
 // applications about a changed value.
 class DFKitHost {
@@ -39,6 +46,8 @@ class DFKitView {
     virtual Size sizeThatFits(double width) const = 0;
     // How far from the parent's content edge the view sits.
     virtual double leadingInset() const { return 0; }
+    // How much room the view keeps below itself.
+    virtual double bottomMargin() const { return 0; }
 
     virtual void draw(Canvas& canvas, Appearance appearance) const = 0;
     // Draws the view and its subviews at the view's frame.

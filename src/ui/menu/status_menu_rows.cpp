@@ -42,6 +42,8 @@ constexpr std::array<ShortcutText, allHotkeys.size()> shortcutTexts = {{
 }};
 
 constexpr double allowButtonHeight = 24;
+// The button lines up with the status row's text and keeps clear of the separator.
+constexpr DFKitMargins allowButtonMargins{DFKitRow::textX, 8};
 
 template <typename View, typename... Arguments>
 void append(DFKitViews& rows, Arguments&&... arguments) {
@@ -87,7 +89,7 @@ DFKitViews StatusMenuController::readinessRows() {
                             platform().accessibility.promptForTrust();
                             AX::openSettingsPane();
                         }),
-                        DFKitRow::textX);
+                        allowButtonMargins);
     return rows;
 }
 
