@@ -1,10 +1,15 @@
 #pragma once
 
 #include "platform/mac/mac_accessibility.h"
+#include "platform/mac/mac_appearance.h"
 #include "platform/mac/mac_defaults.h"
+#include "platform/mac/mac_event_monitors.h"
 #include "platform/mac/mac_event_tap_port.h"
 #include "platform/mac/mac_executor.h"
+#include "platform/mac/mac_key_panel.h"
 #include "platform/mac/mac_login_item.h"
+#include "platform/mac/mac_native_menus.h"
+#include "platform/mac/mac_status_bar.h"
 #include "platform/mac/mac_system_log.h"
 #include "platform/mac/mac_text.h"
 #include "platform/mac/mac_window_host.h"
@@ -19,8 +24,10 @@ namespace vistrel {
 class MacPlatform {
   public:
     MacPlatform()
-        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,   eventTap_,
-                    executor_,      clock_,        systemLog_, loginItem_, windowHost_, text_} {}
+        : platform_{accessibility_, windowServer_, workspace_,  screens_,   defaults_,
+                    eventTap_,      executor_,     clock_,      systemLog_, loginItem_,
+                    windowHost_,    text_,         statusBar_,  panels_,    eventMonitors_,
+                    menus_,         appearance_,   application_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -39,6 +46,12 @@ class MacPlatform {
     MacLoginItem loginItem_;
     MacWindowHost windowHost_;
     MacTextMeasurer text_;
+    MacStatusBar statusBar_;
+    MacKeyPanelHost panels_;
+    MacEventMonitors eventMonitors_;
+    MacNativeMenus menus_;
+    MacAppearance appearance_;
+    MacAgentApplication application_;
     Platform platform_;
 };
 

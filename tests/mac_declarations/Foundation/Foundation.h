@@ -9,6 +9,7 @@
 #include <Foundation/NSDictionary.h>
 #include <Foundation/NSEnumerator.h>
 #include <Foundation/NSError.h>
+#include <Foundation/NSKeyValueObserving.h>
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSObjCRuntime.h>
 #include <Foundation/NSObject.h>
