@@ -42,4 +42,8 @@ void drawGlyph(Canvas& canvas, DFKitGlyph glyph, Rect rect, Color color) {
                   color, {glyphLineWidth, LineCap::round, LineJoin::round});
 }
 
+void drawGlyph(Canvas& canvas, DFKitGlyph glyph, Point centre, double side, Color color) {
+    drawGlyph(canvas, glyph, {centre.x - side / 2, centre.y - side / 2, side, side}, color);
+}
+
 }  // namespace vistrel

@@ -69,5 +69,7 @@ Path glyphPath(DFKitGlyph glyph);
 
 // The glyph scaled into the square `rect` and stroked 1.6 points wide with round ends.
 void drawGlyph(Canvas& canvas, DFKitGlyph glyph, Rect rect, Color color);
+// The glyph in a square `side` points wide centred on `centre`.
+void drawGlyph(Canvas& canvas, DFKitGlyph glyph, Point centre, double side, Color color);
 
 }  // namespace vistrel

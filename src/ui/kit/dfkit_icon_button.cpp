@@ -14,9 +14,7 @@ DFKitIconButton::DFKitIconButton(DFKitGlyph glyph, std::string label, std::funct
 void DFKitIconButton::draw(Canvas& canvas, Appearance appearance) const {
     if (hovered() || pressed())
         canvas.fill(Path::roundedRect(bounds(), cornerRadius), DFKit::chip.resolved(appearance));
-    const Rect glyph{bounds().midX() - glyphSize / 2, bounds().midY() - glyphSize / 2, glyphSize,
-                     glyphSize};
-    drawGlyph(canvas, glyph_, glyph, DFKit::ink.resolved(appearance));
+    drawGlyph(canvas, glyph_, bounds().mid(), glyphSize, DFKit::ink.resolved(appearance));
 }
 
 }  // namespace vistrel

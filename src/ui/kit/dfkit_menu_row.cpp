@@ -27,7 +27,7 @@ void DFKitMenuRow::draw(Canvas& canvas, Appearance appearance) const {
     if (hovered() || pressed())
         canvas.fill(Path::roundedRect(bounds(), cornerRadius), DFKit::chip.resolved(appearance));
     const double midY = bounds().midY();
-    drawGlyph(canvas, glyph_, {glyphX, midY - glyphSize / 2, glyphSize, glyphSize},
+    drawGlyph(canvas, glyph_, {glyphX + glyphSize / 2, midY}, glyphSize,
               DFKit::ink.resolved(appearance));
     const double shortcutWidth = shortcut_ ? shortcut_->width() + shortcutInset : 0;
     title_.fitted(bounds().width - titleX - shortcutInset - shortcutWidth)

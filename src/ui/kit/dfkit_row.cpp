@@ -55,9 +55,8 @@ void DFKitRow::draw(Canvas& canvas, Appearance appearance) const {
     canvas.fill(Path::oval(disc), (on_ ? DFKit::indigo : DFKit::chip).resolved(appearance));
     canvas.stroke(Path::oval(disc), (on_ ? DFKit::indigo : DFKit::lineStrong).resolved(appearance),
                   {discBorder});
-    const Rect glyph{discRect_.midX() - glyphSize / 2, discRect_.midY() - glyphSize / 2, glyphSize,
-                     glyphSize};
-    drawGlyph(canvas, glyph_, glyph, (on_ ? DFKit::onIndigo : DFKit::ink).resolved(appearance));
+    drawGlyph(canvas, glyph_, discRect_.mid(), glyphSize,
+              (on_ ? DFKit::onIndigo : DFKit::ink).resolved(appearance));
     title_.draw(canvas, appearance, titleRect_.x, titleRect_.midY());
     double midY = detailRect_.y + detailLineHeight / 2;
     for (const std::string& line : detailLines_) {
