@@ -35,6 +35,9 @@ constexpr double menuRadius = 8;
 constexpr double menuTextX = 24;
 constexpr double menuFontSize = 13;
 constexpr double stateMarkX = 9;
+constexpr double menuScreenMargin = 4;
+// The title's baseline below the middle of its item.
+constexpr double menuBaselineDrop = 4.5;
 const Color lightMenu = Color::fromRGB(0xF2F2F3).withAlpha(0.98);
 const Color darkMenu = Color::fromRGB(0x2B2B2E).withAlpha(0.98);
 const Color lightMenuRim = Color::black().withAlpha(0.12);
@@ -129,7 +132,10 @@ void SimMenuBarPainter::openMenu() {
                 std::max(width, canvas.textWidth({item.title, font, ink, 0}) + menuWidthPadding);
     }
     const Rect panel = onScreen(menu->panel->frame());
-    const Rect frame{panel.x + menu->point.x, panel.y + menu->point.y, width, height};
+    // Like AppKit, the menu moves left rather than leave the screen.
+    const double screenRight = desktop_.screens().front().frame.width - menuScreenMargin;
+    const Rect frame{std::min(panel.x + menu->point.x, screenRight - width),
+                     panel.y + menu->point.y, width, height};
     shadow(frame, menuRadius);
     canvas.fill(Path::roundedRect(frame, menuRadius), dark_ ? darkMenu : lightMenu);
     canvas.stroke(Path::roundedRect(frame.insetBy(0.5, 0.5), menuRadius),
@@ -156,7 +162,7 @@ void SimMenuBarPainter::openMenu() {
                               .lineTo({frame.x + stateMarkX + 8, midY}),
                           ink, mark);
         }
-        canvas.drawText({item.title, font, ink, 0}, {frame.x + menuTextX, midY + 4.5});
+        canvas.drawText({item.title, font, ink, 0}, {frame.x + menuTextX, midY + menuBaselineDrop});
         y += menuItemHeight;
     }
 }
