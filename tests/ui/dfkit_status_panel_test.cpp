@@ -108,3 +108,37 @@ TEST_F(DFKitStatusPanelTest, AMissingStatusItemLeavesTheMenuQuiet) {
 
 }  // namespace
 }  // namespace vistrel::testing
+
+namespace vistrel::testing {
+namespace {
+
+using DFKitStatusPanelFaultTest = StatusMenuTest;
+
+TEST_F(DFKitStatusPanelFaultTest, WithoutEventMonitorsThePanelStillOpensAndClosesOnAClick) {
+    desktop.eventMonitors().failMonitors = true;
+    clickItem();
+    ASSERT_TRUE(panelOpen());
+    clickItem();
+    EXPECT_FALSE(panelOpen());
+}
+
+TEST_F(DFKitStatusPanelFaultTest, AMenuThatCannotAppearLeavesThePanelOpen) {
+    desktop.menus().failPopUps = true;
+    open();
+    clickLabelled("More options");
+    EXPECT_FALSE(desktop.menus().openMenu());
+    EXPECT_TRUE(panelOpen());
+}
+
+TEST_F(DFKitStatusPanelFaultTest, WithoutAppearanceChangesThePanelOpensInTheAppearanceOfTheMoment) {
+    desktop.appearance().failObserving = true;
+    auto menu = StatusMenuController::make();
+    desktop.appearance().set(Appearance::dark);
+    menu->clicked();
+    ASSERT_FALSE(desktop.panels().panels().empty());
+    EXPECT_EQ(desktop.panels().panels().back()->content()->all<DisplayList::Fill>().front().color,
+              DFKit::surface.dark);
+}
+
+}  // namespace
+}  // namespace vistrel::testing
