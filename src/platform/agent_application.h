@@ -2,7 +2,7 @@
 
 namespace vistrel {
 
-// NSApplication.shared: the agent's own application object.
+// NSApplication.shared: the agent's own application object. Main thread only.
 class AgentApplication {
   public:
     virtual ~AgentApplication() = default;

@@ -5,7 +5,9 @@
 #include "platform/accessibility.h"
 #include "platform/agent_application.h"
 #include "platform/archiver.h"
+#include "platform/appearance.h"
 #include "platform/defaults.h"
+#include "platform/event_monitors.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
 #include "platform/file_system.h"
@@ -18,6 +20,9 @@
 #include "platform/save_panel.h"
 #include "platform/screen_list.h"
 #include "platform/system_info.h"
+#include "platform/key_panel.h"
+#include "platform/native_menu.h"
+#include "platform/status_bar.h"
 #include "platform/system_log.h"
 #include "platform/text_measurer.h"
 #include "platform/updater.h"
@@ -57,6 +62,11 @@ struct Platform {
     Archiver& archiver;
     Uploader& uploader;
     FontRegistrar& fonts;
+    StatusBar& statusBar;
+    KeyPanelHost& panels;
+    EventMonitors& eventMonitors;
+    NativeMenus& menus;
+    SystemAppearance& appearance;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

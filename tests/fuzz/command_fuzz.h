@@ -90,7 +90,7 @@ inline bool dispatchKeepsItsPromise(const NotificationCenter::UserInfo& userInfo
 
     const bool acted =
         applied > 0 || desktop.trustPrompts > 0 || !desktop.workspace().openedURLs.empty() ||
-        desktop.application().activations > 0 || !desktop.systemLog().lines().empty() ||
+        desktop.application().activations() > 0 || !desktop.systemLog().lines().empty() ||
         desktop.loginItem().status() != LoginItemStatus::notRegistered;
     const auto request = CommandChannel::parse(userInfo);
     if (!request) return !acted;

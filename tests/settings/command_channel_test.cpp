@@ -113,7 +113,7 @@ TEST_F(CommandChannelTest, CheckForUpdatesBringsTheAgentToTheFrontThenChecks) {
         std::string(Updates::publicKeyLength, 'k');
     channel.listen();
     post(command("checkForUpdates"));
-    EXPECT_EQ(desktop.application().activations, 1);
+    EXPECT_EQ(desktop.application().activations(), 1);
     EXPECT_EQ(desktop.updates().record.checks, 1);
 }
 

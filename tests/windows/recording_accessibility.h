@@ -44,7 +44,12 @@ class RecordingAccessibility : public Accessibility {
                      .savePanel = inner.savePanel,
                      .archiver = inner.archiver,
                      .uploader = inner.uploader,
-                     .fonts = inner.fonts} {
+                     .fonts = inner.fonts,
+                     .statusBar = inner.statusBar,
+                     .panels = inner.panels,
+                     .eventMonitors = inner.eventMonitors,
+                     .menus = inner.menus,
+                     .appearance = inner.appearance} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

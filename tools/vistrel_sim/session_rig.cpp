@@ -54,7 +54,12 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .savePanel = desktop.platform().savePanel,
                 .archiver = desktop.platform().archiver,
                 .uploader = desktop.platform().uploader,
-                .fonts = desktop.platform().fonts} {
+                .fonts = desktop.platform().fonts,
+                .statusBar = desktop.platform().statusBar,
+                .panels = desktop.platform().panels,
+                .eventMonitors = desktop.platform().eventMonitors,
+                .menus = desktop.platform().menus,
+                .appearance = desktop.platform().appearance} {
     installPlatform(&platform_);
 }
 

@@ -15,3 +15,11 @@
 - (void)setDisplayList:(std::shared_ptr<const vistrel::DisplayList>)displayList;
 
 @end
+
+namespace vistrel {
+
+// Replays a display list into the current AppKit graphics context (an image's drawing
+// handler, for one), which must be flipped exactly when the list is.
+void drawDisplayListInCurrentContext(const DisplayList& list);
+
+}  // namespace vistrel

@@ -141,6 +141,13 @@ class CoreGraphicsCanvas : public Canvas {
 
 }  // namespace
 
+void drawDisplayListInCurrentContext(const DisplayList& list) {
+    CGContextRef context = NSGraphicsContext.currentContext.CGContext;
+    if (context == nullptr) return;
+    CoreGraphicsCanvas canvas(context, list.flipped());
+    list.replay(canvas);
+}
+
 }  // namespace vistrel
 
 @implementation VistrelDisplayListView {

@@ -2,18 +2,23 @@
 
 #include "platform/mac/mac_accessibility.h"
 #include "platform/mac/mac_agent_application.h"
+#include "platform/mac/mac_appearance.h"
 #include "platform/mac/mac_archiver.h"
 #include "platform/mac/mac_defaults.h"
+#include "platform/mac/mac_event_monitors.h"
 #include "platform/mac/mac_event_tap_port.h"
 #include "platform/mac/mac_executor.h"
 #include "platform/mac/mac_file_system.h"
 #include "platform/mac/mac_font_registrar.h"
 #include "platform/mac/mac_info_dictionary.h"
+#include "platform/mac/mac_key_panel.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_modal_alert.h"
+#include "platform/mac/mac_native_menus.h"
 #include "platform/mac/mac_notification_center.h"
 #include "platform/mac/mac_report_dialog.h"
 #include "platform/mac/mac_save_panel.h"
+#include "platform/mac/mac_status_bar.h"
 #include "platform/mac/mac_system_info.h"
 #include "platform/mac/mac_system_log.h"
 #include "platform/mac/mac_text.h"
@@ -54,7 +59,12 @@ class MacPlatform {
                     .savePanel = savePanel_,
                     .archiver = archiver_,
                     .uploader = uploader_,
-                    .fonts = fonts_} {}
+                    .fonts = fonts_,
+                    .statusBar = statusBar_,
+                    .panels = panels_,
+                    .eventMonitors = eventMonitors_,
+                    .menus = menus_,
+                    .appearance = appearance_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -85,6 +95,11 @@ class MacPlatform {
     MacArchiver archiver_;
     MacUploader uploader_;
     MacFontRegistrar fonts_;
+    MacStatusBar statusBar_;
+    MacKeyPanelHost panels_;
+    MacEventMonitors eventMonitors_;
+    MacNativeMenus menus_;
+    MacAppearance appearance_;
     Platform platform_;
 };
 

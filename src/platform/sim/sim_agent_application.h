@@ -8,11 +8,15 @@ namespace vistrel {
 // remembers being asked to quit.
 class SimAgentApplication : public AgentApplication {
   public:
-    void activate() override { ++activations; }
-    void terminate() override { terminated = true; }
+    void activate() override { ++activations_; }
+    void terminate() override { terminated_ = true; }
 
-    int activations = 0;
-    bool terminated = false;
+    int activations() const { return activations_; }
+    bool terminated() const { return terminated_; }
+
+  private:
+    int activations_ = 0;
+    bool terminated_ = false;
 };
 
 }  // namespace vistrel

@@ -51,7 +51,12 @@ SimDesktop::SimDesktop()
                 .savePanel = savePanel_,
                 .archiver = archiver_,
                 .uploader = uploader_,
-                .fonts = fonts_},
+                .fonts = fonts_,
+                .statusBar = statusBar_,
+                .panels = panels_,
+                .eventMonitors = eventMonitors_,
+                .menus = menus_,
+                .appearance = appearance_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

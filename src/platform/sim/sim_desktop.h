@@ -9,22 +9,27 @@
 #include "platform/platform.h"
 #include "platform/sim/sim_accessibility.h"
 #include "platform/sim/sim_agent_application.h"
+#include "platform/sim/sim_appearance.h"
 #include "platform/sim/sim_archiver.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
 #include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_event_monitors.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
 #include "platform/sim/sim_file_system.h"
-#include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_font_registrar.h"
+#include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_installations.h"
+#include "platform/sim/sim_key_panel.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_modal_alert.h"
 #include "platform/sim/sim_model.h"
+#include "platform/sim/sim_native_menus.h"
 #include "platform/sim/sim_notification_center.h"
 #include "platform/sim/sim_report_dialog.h"
 #include "platform/sim/sim_save_panel.h"
+#include "platform/sim/sim_status_bar.h"
 #include "platform/sim/sim_system_info.h"
 #include "platform/sim/sim_system_log.h"
 #include "platform/sim/sim_text_measurer.h"
@@ -78,6 +83,13 @@ class SimDesktop {
     SimArchiver& archiver() { return archiver_; }
     SimUploader& uploader() { return uploader_; }
     SimFontRegistrar& fonts() { return fonts_; }
+    // The menu bar's status items, the agent's key panels, event monitors, native menus and
+    // the system appearance.
+    SimStatusBar& statusBar() { return statusBar_; }
+    SimKeyPanelHost& panels() { return panels_; }
+    SimEventMonitors& eventMonitors() { return eventMonitors_; }
+    SimNativeMenus& menus() { return menus_; }
+    SimAppearance& appearance() { return appearance_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -146,6 +158,11 @@ class SimDesktop {
     SimArchiver archiver_;
     SimUploader uploader_;
     SimFontRegistrar fonts_{bundle.path};
+    SimStatusBar statusBar_{*this};
+    SimKeyPanelHost panels_;
+    SimEventMonitors eventMonitors_;
+    SimNativeMenus menus_;
+    SimAppearance appearance_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

@@ -11,6 +11,7 @@
 #include "platform/sim/cairo_desktop_painter.h"
 #include "platform/sim/cairo_glass.h"
 #include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_menu_bar_painter.h"
 
 namespace vistrel {
 
@@ -132,6 +133,11 @@ CairoSurface SimScreenRenderer::render(const SimScreenScene& scene) {
     for (const SimAgentWindow* window : visibleAgentWindows(desktop_)) {
         paintAgentWindow(cr, *window, size.height, fonts_);
     }
+    SimMenuBarPainter menuBar(cr, fonts_, desktop_);
+    // Mission Control covers the menu bar; the agent's panel closes when it opens.
+    if (!scene.missionControl) menuBar.statusItems();
+    menuBar.panels();
+    menuBar.openMenu();
     if (scene.pointer) painter.pointer(*scene.pointer);
     cairo_destroy(cr);
     return surface;

@@ -32,3 +32,12 @@
 #include <AppKit/NSVisualEffectView.h>
 #include <AppKit/NSWindow.h>
 #include <AppKit/NSWorkspace.h>
+#include <AppKit/NSAccessibilityElement.h>
+#include <AppKit/NSControl.h>
+#include <AppKit/NSEffectiveAppearance.h>
+#include <AppKit/NSEvent.h>
+#include <AppKit/NSMenu.h>
+#include <AppKit/NSPanel.h>
+#include <AppKit/NSStatusBar.h>
+#include <AppKit/NSTrackingArea.h>
+#include <AppKit/NSImageTemplate.h>

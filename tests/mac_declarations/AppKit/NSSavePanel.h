@@ -1,12 +1,9 @@
 #pragma once
 
 #include <AppKit/NSModalResponse.h>
-#include <AppKit/NSWindow.h>
+#include <AppKit/NSPanel.h>
 #include <Foundation/NSString.h>
 #include <Foundation/NSURL.h>
-
-@interface NSPanel : NSWindow
-@end
 
 @interface NSSavePanel : NSPanel
 + (NSSavePanel*)savePanel;

@@ -13,6 +13,7 @@
 #include <Foundation/NSEnumerator.h>
 #include <Foundation/NSError.h>
 #include <Foundation/NSFileManager.h>
+#include <Foundation/NSKeyValueObserving.h>
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSObjCRuntime.h>

@@ -1,0 +1,37 @@
+#include "ui/kit/dfkit_mark.h"
+
+namespace vistrel {
+
+namespace {
+constexpr double designSize = 100;
+}  // namespace
+
+std::string_view rawValue(DFKitMark mark) {
+    switch (mark) {
+        case DFKitMark::vistrel:
+            return "vistrel";
+    }
+    return "vistrel";
+}
+
+Path markPath(DFKitMark mark) {
+    switch (mark) {
+        case DFKitMark::vistrel:
+            break;
+    }
+    // A tall bar, a wide bar on its right and a disc under the wide bar: an L of two
+    // rounded bars holding a circle.
+    return Path()
+        .addRoundedRect({33.5, 33.5, 15, 53}, 7.5)
+        .addRoundedRect({52.5, 33.5, 34, 15}, 7.5)
+        .addOval({52.5, 52.5, 34, 34});
+}
+
+std::shared_ptr<const DisplayList> markImage(DFKitMark mark, double size, Color color) {
+    RecordingCanvas canvas(true);
+    canvas.scale(size / designSize, size / designSize);
+    canvas.fill(markPath(mark), color);
+    return canvas.finish();
+}
+
+}  // namespace vistrel

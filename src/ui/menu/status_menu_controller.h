@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/event_monitors.h"
+#include "platform/native_menu.h"
+#include "platform/status_bar.h"
+#include "ui/kit/dfkit_mark.h"
+#include "ui/kit/dfkit_status_panel.h"
+
+namespace vistrel {
+
+class DFKitIconButton;
+
+// The agent's status item and its panel: whether the agent is ready, a switch for each
+// window shortcut, the saved layouts, and the ways to settings, the welcome guide, About,
+// updates, problem reports and quitting; the "More options" menu in the header. Builds the
+// rows afresh at each opening and routes every action. Made once, lives for the whole run;
+// main thread only.
+class StatusMenuController : public std::enable_shared_from_this<StatusMenuController> {
+  public:
+    // What the menu needs of the updater, when there is one.
+    struct Updater {
+        std::function<void()> checkForUpdates;  // a check the user sees
+        std::function<bool()> automaticallyDownloads;
+        std::function<void(bool)> setAutomaticallyDownloads;
+    };
+
+    // A click this soon after the panel closed (the click that closed it) leaves it closed.
+    static constexpr double reopenGuard = 0.25;
+    static constexpr std::size_t maxLayoutRows = 9;
+    static constexpr double markSize = 16;
+
+    // Creates the status item: the mark as a template image, the label "Vistrel", the click
+    // action, and the visibility the preferences ask for.
+    static std::shared_ptr<StatusMenuController> make();
+
+    std::function<void()> openSettings;
+    std::function<void()> openWelcome;
+    std::function<void()> openAbout;
+    // Absent until the update and problem-report features are present: their rows and the
+    // "Install Updates Automatically" item are then left out.
+    std::optional<Updater> updater;
+    std::function<void()> reportProblem;
+
+    // The status button's action: opens the panel, or closes it when it is open.
+    void clicked();
+    // The panel's rows, top to bottom, as they are now.
+    DFKitViews rows();
+    // The items of the "More options" menu, as they are now.
+    std::vector<NativeMenuItem> moreMenuItems();
+    // Shows or hides the item as "menuBarIconHidden" asks.
+    void applyVisibility();
+
+    StatusItem* item() const { return item_.get(); }
+    DFKitStatusPanel* panel() const { return panel_.get(); }
+    const DFKitApp& app() const { return app_; }
+
+  private:
+    StatusMenuController() = default;
+    void init();
+    void makePanel();
+    void willOpen();
+    void moreMenu();
+    bool keyDown(const KeyPress& press);
+    DFKitViews readinessRows();
+    DFKitViews shortcutRows();
+    DFKitViews layoutRows();
+    DFKitViews bottomRows();
+    // A row's action: closes the panel, then acts, if the controller still exists.
+    std::function<void()> rowAction(std::function<void(StatusMenuController&)> body);
+
+    std::unique_ptr<StatusItem> item_;
+    DFKitApp app_{"Vistrel", DFKitMark::vistrel};
+    std::unique_ptr<DFKitStatusPanel> panel_;
+    std::uint64_t keyMonitor_ = 0;
+    // The header's "More options" button of the rows shown, where its menu opens.
+    DFKitIconButton* moreButton_ = nullptr;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,166 @@
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "diagnostics/log.h"
+#include "layouts/layout_actions.h"
+#include "layouts/layout_store.h"
+#include "platform/platform.h"
+#include "settings/settings.h"
+#include "settings/shared.h"
+#include "tracking/ax.h"
+#include "ui/kit/dfkit_button.h"
+#include "ui/kit/dfkit_icon_button.h"
+#include "ui/kit/dfkit_key_row.h"
+#include "ui/kit/dfkit_menu_row.h"
+#include "ui/kit/dfkit_panel_header.h"
+#include "ui/kit/dfkit_row.h"
+#include "ui/kit/dfkit_section_label.h"
+#include "ui/kit/dfkit_separator.h"
+#include "ui/menu/status_menu_controller.h"
+
+// The rows of the status panel, top to bottom.
+
+namespace vistrel {
+
+namespace {
+
+struct ShortcutText {
+    std::string_view title;
+    std::string_view keys;
+};
+
+// In the order of the Hotkey enumeration.
+constexpr std::array<ShortcutText, allHotkeys.size()> shortcutTexts = {{
+    {"Close window", "⌘W"},
+    {"Close all windows of the app", "⌥⌘W"},
+    {"Minimize window", "⌘M"},
+    {"Full screen / maximize window", "⌘F"},
+    {"Hide app", "⌘H"},
+    {"Hide other apps", "⌥⌘H"},
+    {"Force-quit app", "⌘Q"},
+}};
+
+constexpr double allowButtonHeight = 24;
+// The button lines up with the status row's text and keeps clear of the separator.
+constexpr DFKitMargins allowButtonMargins{DFKitRow::textX, 8};
+
+template <typename View, typename... Arguments>
+void append(DFKitViews& rows, Arguments&&... arguments) {
+    rows.push_back(std::make_unique<View>(std::forward<Arguments>(arguments)...));
+}
+
+void appendAll(DFKitViews& rows, DFKitViews more) {
+    for (auto& row : more)
+        rows.push_back(std::move(row));
+}
+
+}  // namespace
+
+DFKitViews StatusMenuController::rows() {
+    DFKitViews rows;
+    std::weak_ptr<StatusMenuController> weak = weak_from_this();
+    auto more = std::make_unique<DFKitIconButton>(DFKitGlyph::dots, "More options", [weak] {
+        if (auto self = weak.lock()) self->moreMenu();
+    });
+    moreButton_ = more.get();
+    append<DFKitPanelHeader>(rows, app_, std::nullopt, std::move(more));
+    appendAll(rows, readinessRows());
+    append<DFKitSeparator>(rows);
+    append<DFKitSectionLabel>(rows, "Shortcuts in Mission Control");
+    appendAll(rows, shortcutRows());
+    if (Settings::shared().layoutsEnabled()) appendAll(rows, layoutRows());
+    append<DFKitSeparator>(rows);
+    appendAll(rows, bottomRows());
+    return rows;
+}
+
+DFKitViews StatusMenuController::readinessRows() {
+    DFKitViews rows;
+    if (platform().accessibility.isProcessTrusted()) {
+        append<DFKitRow>(rows, DFKitGlyph::wins, true, "Ready in Mission Control",
+                         "Hover a window for its buttons. The shortcuts act on that window.");
+        return rows;
+    }
+    append<DFKitRow>(rows, DFKitGlyph::warning, false, "Allow Accessibility",
+                     "Vistrel needs it to see which window you point at in Mission Control.");
+    append<DFKitButton>(rows, "Open System Settings…", DFKitButton::Variant::primary,
+                        allowButtonHeight, rowAction([](StatusMenuController&) {
+                            platform().accessibility.promptForTrust();
+                            AX::openSettingsPane();
+                        }),
+                        allowButtonMargins);
+    return rows;
+}
+
+DFKitViews StatusMenuController::shortcutRows() {
+    DFKitViews rows;
+    for (const Hotkey hotkey : allHotkeys) {
+        const ShortcutText& text = shortcutTexts.at(static_cast<std::size_t>(hotkey));
+        const std::string title(text.title);
+        auto toggle = std::make_unique<DFKitSwitch>(
+            title, !Settings::shared().hotkeyDisabled(hotkey),
+            [hotkey](bool on) { Shared::store()->set(Shared::Key::hotkeyDisabled(hotkey), !on); });
+        append<DFKitKeyRow>(rows, std::string(text.keys), title, std::move(toggle));
+    }
+    return rows;
+}
+
+DFKitViews StatusMenuController::layoutRows() {
+    DFKitViews rows;
+    append<DFKitSeparator>(rows);
+    append<DFKitSectionLabel>(rows, "Layouts");
+    const std::vector<SavedLayout> saved = LayoutStore::load(*Shared::store());
+    for (std::size_t i = 0; i < saved.size() && i < maxLayoutRows; ++i) {
+        const SavedLayout& layout = saved[i];
+        append<DFKitMenuRow>(
+            rows, DFKitGlyph::apps, layout.name, std::nullopt,
+            rowAction([layout](StatusMenuController&) {
+                Log::info("layouts: restoring \"" + layout.name + "\" from the menu");
+                LayoutActions::restore(layout, [](std::vector<WindowRef>) {});
+            }));
+    }
+    append<DFKitMenuRow>(rows, DFKitGlyph::plus, "Save Current Layout", std::nullopt,
+                         rowAction([](StatusMenuController&) {
+                             LayoutActions::captureCurrent([](std::optional<SavedLayout> layout) {
+                                 if (!layout) return;
+                                 LayoutStore::add(*Shared::store(), *layout);
+                                 Log::info("layouts: saved the current windows as \"" +
+                                           layout->name + "\" from the menu");
+                             });
+                         }));
+    return rows;
+}
+
+DFKitViews StatusMenuController::bottomRows() {
+    DFKitViews rows;
+    const auto call = [this](std::function<void()> StatusMenuController::*member) {
+        return rowAction([member](StatusMenuController& self) {
+            if (self.*member) (self.*member)();
+        });
+    };
+    append<DFKitMenuRow>(rows, DFKitGlyph::gear, "Settings", "⌘,",
+                         call(&StatusMenuController::openSettings));
+    append<DFKitMenuRow>(rows, DFKitGlyph::spark, "Welcome Guide…", std::nullopt,
+                         call(&StatusMenuController::openWelcome));
+    append<DFKitMenuRow>(rows, DFKitGlyph::info, "About Vistrel", std::nullopt,
+                         call(&StatusMenuController::openAbout));
+    if (updater) {
+        append<DFKitMenuRow>(rows, DFKitGlyph::download, "Check for Updates…", std::nullopt,
+                             rowAction([](StatusMenuController& self) {
+                                 if (!self.updater) return;
+                                 platform().application.activate();
+                                 self.updater->checkForUpdates();
+                             }));
+    }
+    if (reportProblem) {
+        append<DFKitMenuRow>(rows, DFKitGlyph::flag, "Report a Problem…", std::nullopt,
+                             call(&StatusMenuController::reportProblem));
+    }
+    append<DFKitMenuRow>(
+        rows, DFKitGlyph::power, "Quit Vistrel", "⌘Q",
+        rowAction([](StatusMenuController&) { platform().application.terminate(); }));
+    return rows;
+}
+
+}  // namespace vistrel

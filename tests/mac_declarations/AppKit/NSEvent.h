@@ -1,0 +1,30 @@
+#pragma once
+
+#include <Foundation/NSGeometry.h>
+#include <Foundation/NSObject.h>
+#include <Foundation/NSString.h>
+
+VISTREL_OPTIONS(unsigned long long, NSEventMask){
+    NSEventMaskLeftMouseDown = 1ULL << 1,
+    NSEventMaskRightMouseDown = 1ULL << 3,
+    NSEventMaskKeyDown = 1ULL << 10,
+};
+
+VISTREL_OPTIONS(NSUInteger, NSEventModifierFlags){
+    NSEventModifierFlagDeviceIndependentFlagsMask = 0xffff0000UL,
+};
+
+@interface NSEvent : NSObject <NSCopying>
+@property(readonly) NSPoint locationInWindow;
+@property(readonly) NSEventModifierFlags modifierFlags;
+// Nil for events other than key events.
+@property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
+// Answers an opaque monitor object, or nil when the monitor could not be installed.
++ (nullable id)addGlobalMonitorForEventsMatchingMask:(NSEventMask)mask
+                                             handler:(void (^)(NSEvent* event))block
+    VISTREL_MACOS(10.6);
++ (nullable id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask
+                                            handler:(NSEvent* _Nullable (^)(NSEvent* event))block
+    VISTREL_MACOS(10.6);
++ (void)removeMonitor:(id)eventMonitor VISTREL_MACOS(10.6);
+@end
