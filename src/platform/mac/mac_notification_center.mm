@@ -3,13 +3,14 @@
 #import <Foundation/Foundation.h>
 
 #include "platform/mac/mac_property_list.h"
+#include "platform/mac/mac_strings.h"
 
 namespace vistrel {
 
 void MacNotificationCenter::observe(const std::string& name, Observer observer) {
     // The centre keeps the block for the life of the process, as the agent's observers live.
     [NSDistributedNotificationCenter.defaultCenter
-        addObserverForName:MacPropertyList::string(name)
+        addObserverForName:nsString(name)
                     object:nil
                      queue:NSOperationQueue.mainQueue
                 usingBlock:^(NSNotification* notification) {
@@ -23,11 +24,10 @@ void MacNotificationCenter::observe(const std::string& name, Observer observer) 
 
 void MacNotificationCenter::post(const std::string& name, const UserInfo& userInfo) {
     NSDictionary* info = userInfo ? MacPropertyList::object(DefaultsValue(*userInfo)) : nil;
-    [NSDistributedNotificationCenter.defaultCenter
-        postNotificationName:MacPropertyList::string(name)
-                      object:nil
-                    userInfo:info
-          deliverImmediately:YES];
+    [NSDistributedNotificationCenter.defaultCenter postNotificationName:nsString(name)
+                                                                 object:nil
+                                                               userInfo:info
+                                                     deliverImmediately:YES];
 }
 
 }  // namespace vistrel

@@ -2,8 +2,6 @@
 
 #import <Foundation/Foundation.h>
 
-#include <string>
-
 #include "platform/defaults_value.h"
 
 namespace vistrel::MacPropertyList {
@@ -13,7 +11,5 @@ namespace vistrel::MacPropertyList {
 DefaultsValue value(id _Nullable object);
 // A value as a property-list object; nil for nothing.
 id _Nullable object(const DefaultsValue& value);
-// UTF-8 text as an NSString.
-NSString* _Nonnull string(const std::string& text);
 
 }  // namespace vistrel::MacPropertyList

@@ -1,5 +1,7 @@
 #include "platform/mac/mac_property_list.h"
 
+#include "platform/mac/mac_strings.h"
+
 namespace vistrel::MacPropertyList {
 
 namespace {
@@ -52,7 +54,7 @@ id object(const DefaultsValue& value) {
     if (auto b = value.boolean()) return @(*b);
     if (auto i = value.integer()) return @(*i);
     if (auto d = value.number()) return @(*d);
-    if (auto s = value.string()) return string(*s);
+    if (auto s = value.string()) return nsString(*s);
     if (auto data = value.data()) return [NSData dataWithBytes:data->data() length:data->size()];
     if (auto array = value.array()) {
         NSMutableArray* result = [NSMutableArray arrayWithCapacity:array->size()];
@@ -64,15 +66,11 @@ id object(const DefaultsValue& value) {
     if (auto dictionary = value.dictionary()) {
         NSMutableDictionary* result = [NSMutableDictionary dictionary];
         for (const auto& [key, element] : *dictionary) {
-            if (id converted = object(element)) result[string(key)] = converted;
+            if (id converted = object(element)) result[nsString(key)] = converted;
         }
         return result;
     }
     return nil;
-}
-
-NSString* string(const std::string& text) {
-    return [NSString stringWithUTF8String:text.c_str()];
 }
 
 }  // namespace vistrel::MacPropertyList

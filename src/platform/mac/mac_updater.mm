@@ -3,6 +3,8 @@
 #import <Foundation/Foundation.h>
 #import <Sparkle/Sparkle.h>
 
+#include "platform/mac/mac_strings.h"
+
 // The user driver's delegate: the standard driver may remind the user gently of a
 // scheduled update, as an agent without a Dock icon cannot draw attention otherwise.
 @interface VistrelUpdateDriverDelegate : NSObject <SPUStandardUserDriverDelegate>
@@ -32,7 +34,7 @@ class MacUpdater : public Updater {
     std::optional<std::string> start() override {
         NSError* error = nil;
         if ([updater_ startUpdater:&error]) return std::nullopt;
-        return std::string(error != nil ? error.localizedDescription.UTF8String : "unknown error");
+        return describe(error);
     }
     std::optional<std::string> feedURL() override {
         NSString* feed = updater_.feedURL.absoluteString;
