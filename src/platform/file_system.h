@@ -32,10 +32,13 @@ class FileSystem {
     virtual FileError createFolder(const std::string& folder) = 0;
     // Data.write(to:options: .atomic).
     virtual FileError writeAtomically(const std::string& file, std::string_view bytes) = 0;
-    // FileManager.copyItem(at:to:); fails when something is already at `to`.
+    // FileManager.copyItem(at:to:), folders with everything in them; fails when something
+    // is already at `to`.
     virtual FileError copy(const std::string& from, const std::string& to) = 0;
     // FileManager.removeItem(at:).
     virtual FileError remove(const std::string& item) = 0;
+    // FileManager.trashItem(at:resultingItemURL:): moves the item to the user's Trash.
+    virtual FileError trash(const std::string& item) = 0;
     // FileManager.fileExists(atPath:).
     virtual bool exists(const std::string& item) = 0;
     // FileManager.contentsOfDirectory(at:includingPropertiesForKeys:

@@ -4,25 +4,27 @@
 
 #include "platform/accessibility.h"
 #include "platform/agent_application.h"
-#include "platform/archiver.h"
 #include "platform/appearance.h"
+#include "platform/archiver.h"
 #include "platform/defaults.h"
 #include "platform/event_monitors.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
 #include "platform/file_system.h"
-#include "platform/info_dictionary.h"
 #include "platform/font_registrar.h"
+#include "platform/info_dictionary.h"
+#include "platform/key_panel.h"
+#include "platform/launch_environment.h"
 #include "platform/login_item.h"
 #include "platform/modal_alert.h"
+#include "platform/native_menu.h"
 #include "platform/notification_center.h"
+#include "platform/process_runner.h"
 #include "platform/report_dialog.h"
 #include "platform/save_panel.h"
 #include "platform/screen_list.h"
-#include "platform/system_info.h"
-#include "platform/key_panel.h"
-#include "platform/native_menu.h"
 #include "platform/status_bar.h"
+#include "platform/system_info.h"
 #include "platform/system_log.h"
 #include "platform/text_measurer.h"
 #include "platform/updater.h"
@@ -67,6 +69,8 @@ struct Platform {
     EventMonitors& eventMonitors;
     NativeMenus& menus;
     SystemAppearance& appearance;
+    LaunchEnvironment& launch;
+    ProcessRunner& processes;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

@@ -49,7 +49,9 @@ class RecordingAccessibility : public Accessibility {
                      .panels = inner.panels,
                      .eventMonitors = inner.eventMonitors,
                      .menus = inner.menus,
-                     .appearance = inner.appearance} {
+                     .appearance = inner.appearance,
+                     .launch = inner.launch,
+                     .processes = inner.processes} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

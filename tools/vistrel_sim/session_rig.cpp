@@ -59,7 +59,9 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .panels = desktop.platform().panels,
                 .eventMonitors = desktop.platform().eventMonitors,
                 .menus = desktop.platform().menus,
-                .appearance = desktop.platform().appearance} {
+                .appearance = desktop.platform().appearance,
+                .launch = desktop.platform().launch,
+                .processes = desktop.platform().processes} {
     installPlatform(&platform_);
 }
 

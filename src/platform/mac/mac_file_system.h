@@ -13,6 +13,7 @@ class MacFileSystem : public FileSystem {
     FileError writeAtomically(const std::string& file, std::string_view bytes) override;
     FileError copy(const std::string& from, const std::string& to) override;
     FileError remove(const std::string& item) override;
+    FileError trash(const std::string& item) override;
     bool exists(const std::string& item) override;
     std::vector<FileEntry> contentsWithModificationDates(const std::string& folder) override;
 };

@@ -59,6 +59,15 @@ FileError MacFileSystem::remove(const std::string& item) {
     return outcome(ok, error);
 }
 
+FileError MacFileSystem::trash(const std::string& item) {
+    NSError* error = nil;
+    const BOOL ok =
+        [NSFileManager.defaultManager trashItemAtURL:[NSURL fileURLWithPath:nsString(item)]
+                                    resultingItemURL:nil
+                                               error:&error];
+    return outcome(ok, error);
+}
+
 bool MacFileSystem::exists(const std::string& item) {
     return [NSFileManager.defaultManager fileExistsAtPath:nsString(item)];
 }

@@ -12,10 +12,12 @@
 #include "platform/mac/mac_font_registrar.h"
 #include "platform/mac/mac_info_dictionary.h"
 #include "platform/mac/mac_key_panel.h"
+#include "platform/mac/mac_launch_environment.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_modal_alert.h"
 #include "platform/mac/mac_native_menus.h"
 #include "platform/mac/mac_notification_center.h"
+#include "platform/mac/mac_process_runner.h"
 #include "platform/mac/mac_report_dialog.h"
 #include "platform/mac/mac_save_panel.h"
 #include "platform/mac/mac_status_bar.h"
@@ -64,7 +66,9 @@ class MacPlatform {
                     .panels = panels_,
                     .eventMonitors = eventMonitors_,
                     .menus = menus_,
-                    .appearance = appearance_} {}
+                    .appearance = appearance_,
+                    .launch = launch_,
+                    .processes = processes_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -100,6 +104,8 @@ class MacPlatform {
     MacEventMonitors eventMonitors_;
     MacNativeMenus menus_;
     MacAppearance appearance_;
+    MacLaunchEnvironment launch_;
+    MacProcessRunner processes_;
     Platform platform_;
 };
 

@@ -56,7 +56,9 @@ SimDesktop::SimDesktop()
                 .panels = panels_,
                 .eventMonitors = eventMonitors_,
                 .menus = menus_,
-                .appearance = appearance_},
+                .appearance = appearance_,
+                .launch = launch_,
+                .processes = processes_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

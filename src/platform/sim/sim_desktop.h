@@ -22,11 +22,13 @@
 #include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_key_panel.h"
+#include "platform/sim/sim_launch_environment.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_modal_alert.h"
 #include "platform/sim/sim_model.h"
 #include "platform/sim/sim_native_menus.h"
 #include "platform/sim/sim_notification_center.h"
+#include "platform/sim/sim_process_runner.h"
 #include "platform/sim/sim_report_dialog.h"
 #include "platform/sim/sim_save_panel.h"
 #include "platform/sim/sim_status_bar.h"
@@ -90,6 +92,8 @@ class SimDesktop {
     SimEventMonitors& eventMonitors() { return eventMonitors_; }
     SimNativeMenus& menus() { return menus_; }
     SimAppearance& appearance() { return appearance_; }
+    SimLaunchEnvironment& launch() { return launch_; }
+    SimProcessRunner& processes() { return processes_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -163,6 +167,8 @@ class SimDesktop {
     SimEventMonitors eventMonitors_;
     SimNativeMenus menus_;
     SimAppearance appearance_;
+    SimLaunchEnvironment launch_;
+    SimProcessRunner processes_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

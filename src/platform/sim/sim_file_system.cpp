@@ -65,13 +65,24 @@ FileError SimFileSystem::copy(const std::string& from, const std::string& to) {
     if (const auto failure = copyFailures.find(to); failure != copyFailures.end())
         return failure->second;
     std::error_code error;
-    fs::copy_file(from, to, fs::copy_options::none, error);
+    if (fs::exists(to, error)) return "an item with the same name already exists";
+    fs::copy(from, to, fs::copy_options::recursive, error);
     return describe(error);
 }
 
 FileError SimFileSystem::remove(const std::string& item) {
     std::error_code error;
     if (!fs::remove(item, error) && !error) return "no such file";
+    return describe(error);
+}
+
+FileError SimFileSystem::trash(const std::string& item) {
+    std::error_code error;
+    const fs::path bin = trashDirectory.value_or((fs::path(homeDirectory()) / ".Trash").string());
+    fs::create_directories(bin, error);
+    if (error) return describe(error);
+    fs::rename(item, bin / fs::path(item).filename(), error);
+    if (!error) trashed.push_back(item);
     return describe(error);
 }
 

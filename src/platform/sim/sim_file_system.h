@@ -3,6 +3,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -18,6 +19,7 @@ class SimFileSystem : public FileSystem {
     FileError writeAtomically(const std::string& file, std::string_view bytes) override;
     FileError copy(const std::string& from, const std::string& to) override;
     FileError remove(const std::string& item) override;
+    FileError trash(const std::string& item) override;
     bool exists(const std::string& item) override;
     std::vector<FileEntry> contentsWithModificationDates(const std::string& folder) override;
 
@@ -26,6 +28,10 @@ class SimFileSystem : public FileSystem {
     // Failures to answer with instead of doing the step.
     bool failTemporaryFolder = false;
     FileError writeFailure;
+    // Where trashed items go; HOME's ".Trash" unless set.
+    std::optional<std::string> trashDirectory;
+    // Items trashed, in order, where they were.
+    std::vector<std::string> trashed;
     // Copies to these destinations fail with the description given.
     std::map<std::string, std::string> copyFailures;
 };

@@ -14,6 +14,7 @@
 #include <Foundation/NSError.h>
 #include <Foundation/NSFileManager.h>
 #include <Foundation/NSKeyValueObserving.h>
+#include <Foundation/NSFileManagerTrash.h>
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSObjCRuntime.h>
@@ -21,6 +22,7 @@
 #include <Foundation/NSOperationQueue.h>
 #include <Foundation/NSPathUtilities.h>
 #include <Foundation/NSProcessInfo.h>
+#include <Foundation/NSProcessInfoLaunch.h>
 #include <Foundation/NSProcessInfoSystem.h>
 #include <Foundation/NSRunLoop.h>
 #include <Foundation/NSString.h>
