@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "settings/command_channel.h"
+
+namespace vistrel {
+
+class Engine;
+class StatusMenuController;
+
+// The agent's start-up and its answers to the system: decides whether this process should
+// run at all (a test host, a second copy, a copy that is being moved), then builds the
+// long-lived parts in a fixed order — fonts, status menu, command channel, first run and
+// the Accessibility prompt, the published status, the engine, the start-up line, updates.
+// Main thread only; lives for the whole run.
+class AppDelegate {
+  public:
+    // Set by the test runner that hosts the app; the agent then starts nothing.
+    static constexpr std::string_view testHostVariable = "XCTestConfigurationFilePath";
+
+    AppDelegate();
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+    // The whole start-up sequence.
+    void applicationDidFinishLaunching();
+    // The user opened the agent again while it runs: brings back a hidden status item, then
+    // opens the Settings app. Always true.
+    bool applicationShouldHandleReopen();
+
+    // "Vistrel <version> (<build>) started on macOS <version>, accessibility <true|false>".
+    static std::string startedLine();
+
+    StatusMenuController* statusMenu() const { return statusMenu_.get(); }
+    Engine* engine() const { return engine_.get(); }
+
+  private:
+    bool isSecondInstance() const;
+    void makeStatusMenu();
+    void firstRunOrPrompt() const;
+    void showStatusItem() const;
+
+    std::shared_ptr<StatusMenuController> statusMenu_;
+    CommandChannel commands_;
+    std::shared_ptr<Engine> engine_;
+};
+
+}  // namespace vistrel
