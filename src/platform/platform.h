@@ -16,6 +16,8 @@
 
 namespace vistrel {
 
+class FileWriter;
+
 // The machine as the core sees it: one implementation of every platform interface. The
 // macOS build installs its own at start-up; tests and vistrel-sim install the simulated
 // desktop. The core reaches it through platform() and never keeps a reference across an
@@ -33,6 +35,7 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    FileWriter& files;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

@@ -23,7 +23,8 @@ class RecordingAccessibility : public Accessibility {
         : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
                                     inner.screens,   inner.defaults,     inner.eventTap,
                                     inner.executor,  inner.clock,        inner.systemLog,
-                                    inner.loginItem, inner.windowHost,   inner.text} {
+                                    inner.loginItem, inner.windowHost,   inner.text,
+                                    inner.files} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

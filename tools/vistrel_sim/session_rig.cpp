@@ -42,7 +42,8 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .systemLog = log,
                 .loginItem = desktop.platform().loginItem,
                 .windowHost = desktop.platform().windowHost,
-                .text = desktop.platform().text} {
+                .text = desktop.platform().text,
+                .files = desktop.platform().files} {
     installPlatform(&platform_);
 }
 

@@ -11,6 +11,7 @@
 #include "platform/mac/mac_window_server.h"
 #include "platform/mac/mac_workspace.h"
 #include "platform/platform.h"
+#include "platform/posix_file_writer.h"
 
 namespace vistrel {
 
@@ -19,8 +20,9 @@ namespace vistrel {
 class MacPlatform {
   public:
     MacPlatform()
-        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,   eventTap_,
-                    executor_,      clock_,        systemLog_, loginItem_, windowHost_, text_} {}
+        : platform_{accessibility_, windowServer_, workspace_, screens_,   defaults_,
+                    eventTap_,      executor_,     clock_,     systemLog_, loginItem_,
+                    windowHost_,    text_,         files_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -39,6 +41,7 @@ class MacPlatform {
     MacLoginItem loginItem_;
     MacWindowHost windowHost_;
     MacTextMeasurer text_;
+    PosixFileWriter files_;
     Platform platform_;
 };
 

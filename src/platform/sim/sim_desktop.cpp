@@ -22,8 +22,9 @@ SimDesktop::SimDesktop()
       workspace_(*this),
       defaults_(bundle.identifier),
       screenList_(*this),
-      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,   eventTap_,
-                executor_,      clock_,        systemLog_, loginItem_,  windowHost_, text_},
+      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,
+                eventTap_,      executor_,     clock_,     systemLog_,  loginItem_,
+                windowHost_,    text_,         files_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

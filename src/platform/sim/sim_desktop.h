@@ -13,6 +13,7 @@
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_file_writer.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
 #include "platform/sim/sim_model.h"
@@ -54,6 +55,8 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    // Real files, with a full disk to stage.
+    SimFileWriter& files() { return files_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -107,6 +110,7 @@ class SimDesktop {
     SimLoginItem loginItem_;
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
+    SimFileWriter files_;
     SimScreenList screenList_;
     Platform platform_;
     SimDock dock_;
