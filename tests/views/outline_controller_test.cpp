@@ -111,7 +111,7 @@ TEST_F(OutlineControllerTest, BarsFadeAndGoAfterTheGivenSeconds) {
     outline.flash(windowFrame, fadeDelay);
     advance(fadeDelay - 0.01);
     EXPECT_EQ(visibleBars(), 4);
-    advance(0.02);
+    advance(0.02 + OutlineController::fadeSeconds);
     EXPECT_EQ(visibleBars(), 0);
     for (const SimAgentWindow* bar : bars())
         EXPECT_EQ(bar->alpha(), 0);
@@ -126,7 +126,7 @@ TEST_F(OutlineControllerTest, OnlyTheLaterOfTwoQuickFlashesFadesTheBars) {
     EXPECT_EQ(visibleBars(), 4);
     EXPECT_EQ(outline.bar(0)->alpha(), 1);
     EXPECT_EQ(outline.bar(0)->frame().x, 600);
-    advance(0.5);
+    advance(0.5 + OutlineController::fadeSeconds);
     EXPECT_EQ(visibleBars(), 0);
 }
 

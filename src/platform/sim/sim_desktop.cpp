@@ -21,6 +21,7 @@ SimDesktop::SimDesktop()
       windowServer_(*this),
       workspace_(*this),
       defaults_(bundle.identifier),
+      windowHost_(&executor_),
       screenList_(*this),
       platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,
                 eventTap_,      executor_,     clock_,     systemLog_,  loginItem_,
