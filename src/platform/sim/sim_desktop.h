@@ -57,6 +57,11 @@ class SimDesktop {
     SimWindowHost& windowHost() { return windowHost_; }
     // Real files, with a full disk to stage.
     SimFileWriter& files() { return files_; }
+    // Fills the disk (or frees it): file appends fail and defaults writes do not take.
+    void setDiskFull(bool full) {
+        files_.setDiskFull(full);
+        defaults_.setDiskFull(full);
+    }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
