@@ -4,8 +4,8 @@
 
 namespace vistrel::testing {
 
-EngineScenario::EngineScenario() {
-    populateDefaultScene(desktop);
+EngineScenario::EngineScenario(Populate populate) {
+    populate(desktop);
     engine = Engine::make();
     engine->start();
     desktop.executor().advance(MissionControlDetector::startDelay);

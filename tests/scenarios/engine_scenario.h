@@ -17,7 +17,9 @@ namespace vistrel::testing {
 // moves the pointer, clicks and types, and looks at the desktop and the log.
 class EngineScenario : public ::testing::Test {
   protected:
-    EngineScenario();
+    using Populate = void (*)(SimDesktop&);
+    // On the default scene, or on the one `populate` sets up.
+    explicit EngineScenario(Populate populate = populateDefaultScene);
 
     // Opens Mission Control and lets the detector notice it and read the thumbnails.
     void openMissionControl();
