@@ -49,8 +49,8 @@ FileLogSlot& current() {
     if (!s.log || s.generation != platformGeneration()) {
         Platform& p = platform();
         s.subsystem = p.workspace.mainBundle().identifier.value_or(std::string(fallbackSubsystem));
-        s.log = std::make_unique<FileLog>(fileName, homeDirectory(), p.executor, p.clock, p.files,
-                                          FileLog::defaultMaxBytes,
+        s.log = std::make_unique<FileLog>(fileName, homeDirectory(), p.executor, p.clock,
+                                          p.fileWriter, FileLog::defaultMaxBytes,
                                           reportToSystemLog(p.systemLog, s.subsystem));
         s.generation = platformGeneration();
     }

@@ -26,8 +26,8 @@ constexpr std::size_t stampLength = 24;  // "2026-11-15T03:19:02.123Z"
 class FileLogTest : public ::testing::Test {
   protected:
     FileLog makeLog(std::uintmax_t maxBytes = FileLog::defaultMaxBytes) {
-        return FileLog("Vistrel", home.path(), desktop.executor(), desktop.clock(), desktop.files(),
-                       maxBytes,
+        return FileLog("Vistrel", home.path(), desktop.executor(), desktop.clock(),
+                       desktop.fileWriter(), maxBytes,
                        [this](std::string_view failure) { failures.emplace_back(failure); });
     }
     void drain() { desktop.executor().runUntilIdle(); }
@@ -87,10 +87,10 @@ TEST_F(FileLogTest, FullDiskLosesTheNewLinesAndKeepsTheOnesWrittenBefore) {
     FileLog log = makeLog();
     log.write("INFO", "kept");
     drain();
-    desktop.files().setDiskFull(true);
+    desktop.fileWriter().setDiskFull(true);
     log.write("INFO", "lost");
     drain();
-    desktop.files().setDiskFull(false);
+    desktop.fileWriter().setDiskFull(false);
     log.write("INFO", "after");
     drain();
     const std::string text = readFile(log.current());
@@ -101,7 +101,7 @@ TEST_F(FileLogTest, FullDiskLosesTheNewLinesAndKeepsTheOnesWrittenBefore) {
 
 TEST_F(FileLogTest, FullDiskIsReportedOnceForARunOfFailedLines) {
     FileLog log = makeLog();
-    desktop.files().setDiskFull(true);
+    desktop.fileWriter().setDiskFull(true);
     log.write("INFO", "one");
     log.write("INFO", "two");
     log.write("INFO", "three");
@@ -112,13 +112,13 @@ TEST_F(FileLogTest, FullDiskIsReportedOnceForARunOfFailedLines) {
 
 TEST_F(FileLogTest, FullDiskIsReportedAgainAfterALineWasWritten) {
     FileLog log = makeLog();
-    desktop.files().setDiskFull(true);
+    desktop.fileWriter().setDiskFull(true);
     log.write("INFO", "lost");
     drain();
-    desktop.files().setDiskFull(false);
+    desktop.fileWriter().setDiskFull(false);
     log.write("INFO", "written");
     drain();
-    desktop.files().setDiskFull(true);
+    desktop.fileWriter().setDiskFull(true);
     log.write("INFO", "lost again");
     drain();
     EXPECT_EQ(failures.size(), 2u);

@@ -4,9 +4,14 @@
 
 namespace vistrel::testing {
 
-EngineScenario::EngineScenario(Populate populate) {
+EngineScenario::EngineScenario() : EngineScenario(populateDefaultScene) {}
+
+EngineScenario::EngineScenario(std::unique_ptr<EngineLayouts> layouts)
+    : EngineScenario(populateDefaultScene, std::move(layouts)) {}
+
+EngineScenario::EngineScenario(Populate populate, std::unique_ptr<EngineLayouts> layouts) {
     populate(desktop);
-    engine = Engine::make();
+    engine = layouts ? Engine::make(std::move(layouts)) : Engine::make();
     engine->start();
     desktop.executor().advance(MissionControlDetector::startDelay);
 }

@@ -17,9 +17,12 @@ namespace vistrel::testing {
 // moves the pointer, clicks and types, and looks at the desktop and the log.
 class EngineScenario : public ::testing::Test {
   protected:
+    EngineScenario();
+    // The engine with a Layouts feature of the test's own instead of the real controller.
+    explicit EngineScenario(std::unique_ptr<EngineLayouts> layouts);
+    // On the scene `populate` sets up instead of the default one.
     using Populate = void (*)(SimDesktop&);
-    // On the default scene, or on the one `populate` sets up.
-    explicit EngineScenario(Populate populate = populateDefaultScene);
+    explicit EngineScenario(Populate populate, std::unique_ptr<EngineLayouts> layouts = nullptr);
 
     // Opens Mission Control and lets the detector notice it and read the thumbnails.
     void openMissionControl();

@@ -74,10 +74,12 @@ class MacAgentWindow : public AgentWindow {
     // through the animator with no duration stops it.
     void setAlpha(double alpha) override {
         NSWindow* window = window_;
-        [NSAnimationContext runAnimationGroup:^(NSAnimationContext* context) {
-          context.duration = 0;
-          window.animator.alphaValue = alpha;
-        }];
+        [NSAnimationContext
+            runAnimationGroup:^(NSAnimationContext* context) {
+              context.duration = 0;
+              window.animator.alphaValue = alpha;
+            }
+            completionHandler:nil];
         window.alphaValue = alpha;
     }
     double alpha() const override { return window_.alphaValue; }

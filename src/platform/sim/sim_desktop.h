@@ -8,17 +8,28 @@
 
 #include "platform/platform.h"
 #include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_agent_application.h"
+#include "platform/sim/sim_archiver.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_file_system.h"
 #include "platform/sim/sim_file_writer.h"
+#include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
+#include "platform/sim/sim_modal_alert.h"
 #include "platform/sim/sim_model.h"
+#include "platform/sim/sim_notification_center.h"
+#include "platform/sim/sim_report_dialog.h"
+#include "platform/sim/sim_save_panel.h"
+#include "platform/sim/sim_system_info.h"
 #include "platform/sim/sim_system_log.h"
 #include "platform/sim/sim_text_measurer.h"
+#include "platform/sim/sim_updater.h"
+#include "platform/sim/sim_uploader.h"
 #include "platform/sim/sim_window_host.h"
 #include "platform/sim/sim_window_server.h"
 #include "platform/sim/sim_workspace.h"
@@ -55,11 +66,22 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
-    // Real files, with a full disk to stage.
-    SimFileWriter& files() { return files_; }
+    SimNotificationCenter& notifications() { return notifications_; }
+    SimUpdateService& updates() { return updates_; }
+    SimAgentApplication& application() { return application_; }
+    SimSystemInfo& systemInfo() { return systemInfo_; }
+    SimInfoDictionary& infoDictionary() { return infoDictionary_; }
+    SimFileSystem& files() { return files_; }
+    SimModalAlert& alert() { return alert_; }
+    SimReportDialog& reportDialog() { return reportDialog_; }
+    SimSavePanel& savePanel() { return savePanel_; }
+    SimArchiver& archiver() { return archiver_; }
+    SimUploader& uploader() { return uploader_; }
+    // Appending to real files, with a full disk to stage.
+    SimFileWriter& fileWriter() { return fileWriter_; }
     // Fills the disk (or frees it): file appends fail and defaults writes do not take.
     void setDiskFull(bool full) {
-        files_.setDiskFull(full);
+        fileWriter_.setDiskFull(full);
         defaults_.setDiskFull(full);
     }
     // The Dock and its Mission Control; not running until launched or opened.
@@ -89,6 +111,8 @@ class SimDesktop {
     // Screens, in NSScreen.screens order, frames in AppKit coordinates.
     std::vector<ScreenDescription>& screens() { return screens_; }
     std::optional<std::size_t> mainScreenIndex = 0;
+    // NSScreen.screensHaveSeparateSpaces, on by default as on a Mac.
+    bool separateSpaces = true;
     // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
     void addScreenToTheRight(Size size);
     // The screens' frames in accessibility coordinates (origin at the primary's top-left).
@@ -115,8 +139,19 @@ class SimDesktop {
     SimLoginItem loginItem_;
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
-    SimFileWriter files_;
     SimScreenList screenList_;
+    SimNotificationCenter notifications_{executor_};
+    SimUpdateService updates_;
+    SimAgentApplication application_;
+    SimSystemInfo systemInfo_;
+    SimInfoDictionary infoDictionary_;
+    SimFileSystem files_;
+    SimModalAlert alert_;
+    SimReportDialog reportDialog_;
+    SimSavePanel savePanel_;
+    SimArchiver archiver_;
+    SimUploader uploader_;
+    SimFileWriter fileWriter_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ApplicationServices/ApplicationServices.h>
+#include <Foundation/Foundation.h>
+
+#include <AppKit/NSAlert.h>
+#include <AppKit/NSAnimationContext.h>
+#include <AppKit/NSAppearance.h>
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSApplicationActivation.h>
+#include <AppKit/NSApplicationTermination.h>
+#include <AppKit/NSBezierPath.h>
+#include <AppKit/NSBitmapImageRep.h>
+#include <AppKit/NSColor.h>
+#include <AppKit/NSControl.h>
+#include <AppKit/NSFont.h>
+#include <AppKit/NSFontSystemSize.h>
+#include <AppKit/NSGraphicsContext.h>
+#include <AppKit/NSImage.h>
+#include <AppKit/NSKeyViewLoop.h>
+#include <AppKit/NSModalResponse.h>
+#include <AppKit/NSResponder.h>
+#include <AppKit/NSRunningApplication.h>
+#include <AppKit/NSSavePanel.h>
+#include <AppKit/NSScreen.h>
+#include <AppKit/NSScreenSpaces.h>
+#include <AppKit/NSScrollView.h>
+#include <AppKit/NSText.h>
+#include <AppKit/NSTextField.h>
+#include <AppKit/NSTextView.h>
+#include <AppKit/NSView.h>
+#include <AppKit/NSVisualEffectView.h>
+#include <AppKit/NSWindow.h>
+#include <AppKit/NSWorkspace.h>
