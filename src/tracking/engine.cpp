@@ -173,16 +173,15 @@ void Engine::runHitTest(HitTest& job) {
 void Engine::hitTestAnswered(HitTest& job) {
     auto engine = job.engine.lock();
     if (!engine) return;
-    const Point point = job.point;
-    const std::uint64_t generation = job.generation;
     engine->lookupBusy_ = false;
     if (auto pending = engine->pendingLookup_) {
         engine->pendingLookup_.reset();
         engine->lookUp(*pending);
         return;
     }
-    if (generation == engine->generation_ && engine->active_ && engine->lastPoint_ == point) {
-        engine->apply(job.candidate, point);
+    if (job.generation == engine->generation_ && engine->active_ &&
+        engine->lastPoint_ == job.point) {
+        engine->apply(job.candidate, job.point);
     }
 }
 
