@@ -1,8 +1,5 @@
 #include "diagnostics/file_log.h"
 
-#include <unistd.h>
-
-#include <cstdio>
 #include <system_error>
 
 #include "diagnostics/iso8601.h"
@@ -14,38 +11,54 @@ namespace fs = std::filesystem;
 // The state the queue works on. Queue tasks share it, so a line handed over just before
 // the log is freed is still written safely.
 struct FileLog::Writer {
+    FileWriter& files;
+    FailureReport reportFailure;
     fs::path directory;
     fs::path current;
     fs::path previous;
     std::uintmax_t maxBytes;
-    std::FILE* handle = nullptr;
+    std::unique_ptr<AppendingFile> handle;
+    // Set by the first failure of a run, cleared by the next line that is written.
+    bool failureReported = false;
 
-    ~Writer() { close(); }
+    Writer(FileWriter& files, FailureReport reportFailure)
+        : files(files), reportFailure(std::move(reportFailure)) {}
 
-    void close() {
-        if (handle != nullptr) std::fclose(handle);
-        handle = nullptr;
-    }
+    void close() { handle.reset(); }
 
-    bool open() {
+    std::error_code open() {
         // Without a home folder there is nowhere to keep the log.
-        if (directory.is_relative()) return false;
+        if (directory.is_relative())
+            return std::make_error_code(std::errc::no_such_file_or_directory);
         std::error_code error;
         fs::create_directories(directory, error);
-        if (error) return false;
-        handle = std::fopen(current.c_str(), "ab");
-        return handle != nullptr;
+        if (!error) handle = files.openForAppending(current, error);
+        return error;
     }
 
     void append(const std::string& line) {
-        if (handle == nullptr && !open()) return;
-        const bool written = std::fwrite(line.data(), 1, line.size(), handle) == line.size();
-        const long size = written ? std::ftell(handle) : -1;
-        if (size < 0) {
+        std::error_code error = handle ? std::error_code() : open();
+        if (!error) error = handle->append(line);
+        if (error) {
             close();
+            failed(error);
             return;
         }
-        if (static_cast<std::uintmax_t>(size) > maxBytes) rotate();
+        failureReported = false;
+        const auto size = handle->size();
+        // A file whose size cannot be read is opened afresh for the next line.
+        if (!size) {
+            close();
+        } else if (*size > maxBytes) {
+            rotate();
+        }
+    }
+
+    void failed(const std::error_code& error) {
+        if (failureReported || !reportFailure) return;
+        failureReported = true;
+        reportFailure("file log: cannot write " + current.filename().string() + " (" +
+                      error.message() + ")");
     }
 
     void rotate() {
@@ -56,15 +69,13 @@ struct FileLog::Writer {
     }
 
     void sync() {
-        if (handle == nullptr) return;
-        std::fflush(handle);
-        ::fsync(::fileno(handle));
+        if (handle) handle->synchronize();
     }
 };
 
 FileLog::FileLog(std::string_view name, const fs::path& home, Executor& executor, Clock& clock,
-                 std::uintmax_t maxBytes)
-    : writer_(std::make_shared<Writer>()),
+                 FileWriter& files, std::uintmax_t maxBytes, FailureReport reportFailure)
+    : writer_(std::make_shared<Writer>(files, std::move(reportFailure))),
       queue_(executor.makeQueue(std::string(queueLabel), QualityOfService::utility)),
       clock_(clock) {
     const std::string base(name);

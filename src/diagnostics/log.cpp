@@ -36,13 +36,22 @@ std::filesystem::path homeDirectory() {
     return home != nullptr ? std::filesystem::path(home) : std::filesystem::path();
 }
 
+// The file log cannot tell of its own trouble in its file: the unified log hears of it.
+FileLog::FailureReport reportToSystemLog(SystemLog& systemLog, std::string subsystem) {
+    return [&systemLog, subsystem = std::move(subsystem)](std::string_view message) {
+        systemLog.write(subsystem, category, LogLevel::error, message);
+    };
+}
+
 FileLogSlot& current() {
     FileLogSlot& s = slot();
     std::lock_guard lock(s.mutex);
     if (!s.log || s.generation != platformGeneration()) {
         Platform& p = platform();
-        s.log = std::make_unique<FileLog>(fileName, homeDirectory(), p.executor, p.clock);
         s.subsystem = p.workspace.mainBundle().identifier.value_or(std::string(fallbackSubsystem));
+        s.log = std::make_unique<FileLog>(fileName, homeDirectory(), p.executor, p.clock,
+                                          p.fileWriter, FileLog::defaultMaxBytes,
+                                          reportToSystemLog(p.systemLog, s.subsystem));
         s.generation = platformGeneration();
     }
     return s;

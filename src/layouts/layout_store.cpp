@@ -1,5 +1,7 @@
 #include "layouts/layout_store.h"
 
+#include <algorithm>
+
 #include "diagnostics/log.h"
 #include "layouts/saved_layout_json.h"
 #include "platform/platform.h"
@@ -9,6 +11,9 @@ namespace vistrel {
 
 namespace {
 
+constexpr std::string_view notWritten =
+    "layouts: the saved layouts could not be written, the ones saved before are kept";
+
 std::string savedKey() {
     return std::string(PreferenceKey::layoutsSaved);
 }
@@ -16,7 +21,11 @@ std::string savedKey() {
 std::vector<SavedLayout> written(DefaultsStore& store, std::vector<SavedLayout> layouts) {
     // A list that cannot be encoded is not written; the caller still shows it.
     if (auto text = LayoutStore::encode(layouts)) {
-        store.set(savedKey(), DefaultsValue(std::move(*text)));
+        const DefaultsValue value(std::move(*text));
+        store.set(savedKey(), value);
+        // A store can refuse a value (a full disk, a value a profile enforces): the list saved
+        // before stays, and the caller still shows the new one.
+        if (store.object(savedKey()) != value) Log::error(notWritten);
     }
     return layouts;
 }
@@ -44,6 +53,12 @@ std::vector<SavedLayout> LayoutStore::add(DefaultsStore& store, const SavedLayou
     auto layouts = load(store);
     layouts.push_back(layout);
     return written(store, std::move(layouts));
+}
+
+bool LayoutStore::contains(DefaultsStore& store, const UUID& id) {
+    const auto layouts = load(store);
+    return std::any_of(layouts.begin(), layouts.end(),
+                       [&](const SavedLayout& layout) { return layout.id == id; });
 }
 
 std::vector<SavedLayout> LayoutStore::remove(DefaultsStore& store, const UUID& id) {

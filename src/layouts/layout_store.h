@@ -21,6 +21,8 @@ struct LayoutStore {
     // Appends the layout to the stored list and writes it back; returns the new list, which
     // is returned even when it could not be encoded (and so was not written).
     static std::vector<SavedLayout> add(DefaultsStore& store, const SavedLayout& layout);
+    // Whether the stored list holds a layout with the id.
+    static bool contains(DefaultsStore& store, const UUID& id);
     // Drops every stored layout with the id and writes the rest back (also when none had it).
     static std::vector<SavedLayout> remove(DefaultsStore& store, const UUID& id);
 };

@@ -24,6 +24,8 @@ std::string quoted(const std::string& name) {
     return "\"" + name + "\"";
 }
 
+constexpr std::string_view notSaved = "Could not save the layout";
+
 // Curly quotes around a layout's name, for what the user reads.
 std::string curlyQuoted(const std::string& name) {
     return "\u201C" + name + "\u201D";
@@ -265,11 +267,22 @@ void LayoutsController::saveCaptured(const std::optional<SavedLayout>& layout) {
         toastMessage("No windows to save", std::nullopt);
         return;
     }
-    if (const auto store = Shared::store()) saved_ = LayoutStore::add(*store, *layout);
+    if (!keep(*layout)) return;
     Log::info("layouts: saved the current windows as " + quoted(layout->name) + " (" +
               std::to_string(layout->windows.size()) + ")");
     showShelf();
     toastMessage("Saved " + curlyQuoted(layout->name), std::nullopt);
+}
+
+bool LayoutsController::keep(const SavedLayout& layout) {
+    const auto store = Shared::store();
+    if (!store) return true;
+    saved_ = LayoutStore::add(*store, layout);
+    if (LayoutStore::contains(*store, layout.id)) return true;
+    // The store did not take it (the store has said why): show what is really saved.
+    saved_ = LayoutStore::load(*store);
+    toastMessage(std::string(notSaved), std::nullopt);
+    return false;
 }
 
 void LayoutsController::restore(std::size_t index) {
@@ -336,16 +349,16 @@ void LayoutsController::finishCompose() {
         Log::info("layouts: composing ended with no windows");
         return;
     }
-    LayoutActions::arrange(std::move(placements), *screen_,
-                           [alive = alive(), name = chosen.name](std::optional<SavedLayout> made) {
-                               auto self = alive.lock();
-                               if (!self || !made) return;
-                               if (const auto store = Shared::store())
-                                   (*self)->saved_ = LayoutStore::add(*store, *made);
-                               Log::info("layouts: saved " + quoted(made->name) + " from " + name);
-                               (*self)->showShelf();
-                               (*self)->windowsMoved();
-                           });
+    LayoutActions::arrange(
+        std::move(placements), *screen_,
+        [alive = alive(), name = chosen.name](std::optional<SavedLayout> made) {
+            auto self = alive.lock();
+            if (!self || !made) return;
+            if ((*self)->keep(*made))
+                Log::info("layouts: saved " + quoted(made->name) + " from " + name);
+            (*self)->showShelf();
+            (*self)->windowsMoved();
+        });
 }
 
 void LayoutsController::cancelCompose() {

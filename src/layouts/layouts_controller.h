@@ -113,6 +113,8 @@ class LayoutsController : public EngineLayouts {
     void updateFold(Point point);
     bool inPillBand(Point point) const;
     void saveCaptured(const std::optional<SavedLayout>& layout);
+    // Adds a layout to the saved ones; false, with a toast saying so, when it was not kept.
+    bool keep(const SavedLayout& layout);
     void restoreLayout(std::size_t index);
     void drop(const Pick& pick, SlotRef slot, Point at);
     void toastMessage(const std::string& message, std::optional<UnitRect> unit,

@@ -35,6 +35,8 @@
 
 namespace vistrel {
 
+class FileWriter;
+
 // The machine as the core sees it: one implementation of every platform interface. The
 // macOS build installs its own at start-up; tests and vistrel-sim install the simulated
 // desktop. The core reaches it through platform() and never keeps a reference across an
@@ -71,6 +73,7 @@ struct Platform {
     SystemAppearance& appearance;
     LaunchEnvironment& launch;
     ProcessRunner& processes;
+    FileWriter& fileWriter;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

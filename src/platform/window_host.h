@@ -46,9 +46,12 @@ class AgentWindow {
     // NSWindow.collectionBehavior bits.
     virtual void setCollectionBehavior(std::uint64_t behavior) = 0;
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
+    // Sets alphaValue at once, stopping a fade in flight (through the animator with a
+    // duration of 0, as NSAnimatablePropertyContainer documents).
     virtual void setAlpha(double alpha) = 0;
     virtual double alpha() const = 0;
-    // Animates alphaValue to `alpha` over `seconds`; `done` runs on the main thread after.
+    // Animates alphaValue to `alpha` over `seconds` (NSAnimationContext); `done` runs on the
+    // main thread when the animation ends, also when it was stopped early.
     virtual void fade(double alpha, double seconds, std::function<void()> done) = 0;
     // The content: a display list in the window's own coordinates. Replaces the previous one
     // and marks the view for redrawing.

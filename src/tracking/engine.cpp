@@ -23,6 +23,21 @@ constexpr std::string_view tapFailed = "could not create event tap (permission m
 
 struct Engine::Private {};
 
+// What a hit-test asks and what it found. The main thread fills in the question only while
+// no hit-test runs, and the hover queue the answer while it runs one; every hand-over goes
+// through a queue. Queued work refers to the job without owning it, which keeps each
+// hand-over small enough to need no allocation: the engine owns the job, and hands it on
+// when it goes while a hit-test is under way (see ~Engine).
+struct Engine::HitTest {
+    std::weak_ptr<Engine> engine;
+    Point point;
+    std::uint64_t generation = 0;
+    Pid ownPid = 0;
+    Pid dockPid = 0;
+    std::string maximizeMode;
+    std::optional<Target> candidate;
+};
+
 std::shared_ptr<Engine> Engine::make() {
     return make(std::make_unique<LayoutsController>());
 }
@@ -35,7 +50,18 @@ Engine::Engine(Private, std::unique_ptr<EngineLayouts> layouts)
     : layouts_(std::move(layouts)),
       ownPid_(platform().workspace.ownPid()),
       axQueue_(platform().executor.makeQueue(std::string(hoverQueueLabel),
-                                             QualityOfService::userInteractive)) {}
+                                             QualityOfService::userInteractive)),
+      hitTest_(std::make_shared<HitTest>()) {}
+
+Engine::~Engine() {
+    if (!lookupBusy_) return;
+    // The hit-test under way and its answer on the main queue still refer to the job: keep
+    // it until both have run. The hover queue runs this after the hit-test, which has then
+    // queued its answer ahead of the job's release on the main queue.
+    axQueue_->async([job = std::move(hitTest_)]() mutable {
+        platform().executor.main().async([job = std::move(job)] {});
+    });
+}
 
 void Engine::start() {
     std::weak_ptr<Engine> weak = weak_from_this();
@@ -123,31 +149,40 @@ void Engine::lookUp(Point point) {
         return;
     }
     lookupBusy_ = true;
-    const std::uint64_t generation = generation_;
-    const Pid ownPid = ownPid_;
-    const Pid dockPid = dockPid_;
-    std::weak_ptr<Engine> weak = weak_from_this();
-    axQueue_->async(
-        [weak, point, generation, ownPid, dockPid, mode = Settings::shared().maximizeMode()] {
-            std::optional<Target> candidate;
-            if (auto hit = AX::windowAt(point); hit && hit->pid != ownPid && hit->pid != dockPid) {
-                candidate = Target{hit->window, hit->pid, AX::availableButtons(hit->window, mode)};
-            }
-            platform().executor.main().async([weak, point, generation, candidate] {
-                auto engine = weak.lock();
-                if (!engine) return;
-                engine->lookupBusy_ = false;
-                if (auto pending = engine->pendingLookup_) {
-                    engine->pendingLookup_.reset();
-                    engine->lookUp(*pending);
-                    return;
-                }
-                if (generation == engine->generation_ && engine->active_ &&
-                    engine->lastPoint_ == point) {
-                    engine->apply(candidate, point);
-                }
-            });
-        });
+    HitTest& job = *hitTest_;
+    job.engine = weak_from_this();
+    job.point = point;
+    job.generation = generation_;
+    job.ownPid = ownPid_;
+    job.dockPid = dockPid_;
+    job.maximizeMode = Settings::shared().maximizeMode();
+    axQueue_->async([job = &job] { runHitTest(*job); });
+}
+
+// On the hover queue.
+void Engine::runHitTest(HitTest& job) {
+    job.candidate.reset();
+    if (auto hit = AX::windowAt(job.point);
+        hit && hit->pid != job.ownPid && hit->pid != job.dockPid) {
+        job.candidate =
+            Target{hit->window, hit->pid, AX::availableButtons(hit->window, job.maximizeMode)};
+    }
+    platform().executor.main().async([job = &job] { hitTestAnswered(*job); });
+}
+
+void Engine::hitTestAnswered(HitTest& job) {
+    auto engine = job.engine.lock();
+    if (!engine) return;
+    engine->lookupBusy_ = false;
+    if (auto pending = engine->pendingLookup_) {
+        engine->pendingLookup_.reset();
+        engine->lookUp(*pending);
+        return;
+    }
+    if (job.generation == engine->generation_ && engine->active_ &&
+        engine->lastPoint_ == job.point) {
+        engine->apply(job.candidate, job.point);
+    }
 }
 
 std::optional<Rect> Engine::smallestThumbAt(Point point) const {

@@ -69,8 +69,14 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     struct Private;  // lets make() reach the constructor through make_shared
 
     Engine(Private, std::unique_ptr<EngineLayouts> layouts);
+    ~Engine() override;
 
   private:
+    // The one hit-test job, made once and reused, so that a pointer move allocates nothing.
+    struct HitTest;
+    static void runHitTest(HitTest& job);
+    static void hitTestAnswered(HitTest& job);
+
     void tick(bool open);
     void opened();
     void closed();
@@ -100,6 +106,7 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     bool tapFailureLogged_ = false;
     Pid ownPid_ = 0;
     std::shared_ptr<SerialQueue> axQueue_;
+    std::shared_ptr<HitTest> hitTest_;
     bool lookupBusy_ = false;
     std::optional<Point> pendingLookup_;
     bool thumbsBusy_ = false;

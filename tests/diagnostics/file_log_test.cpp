@@ -26,8 +26,11 @@ constexpr std::size_t stampLength = 24;  // "2026-11-15T03:19:02.123Z"
 class FileLogTest : public ::testing::Test {
   protected:
     FileLog makeLog(std::uintmax_t maxBytes = FileLog::defaultMaxBytes) {
-        return FileLog("Vistrel", home.path(), desktop.executor(), desktop.clock(), maxBytes);
+        return FileLog("Vistrel", home.path(), desktop.executor(), desktop.clock(),
+                       desktop.fileWriter(), maxBytes,
+                       [this](std::string_view failure) { failures.emplace_back(failure); });
     }
+    void drain() { desktop.executor().runUntilIdle(); }
     void fill(const fs::path& file, std::size_t bytes) {
         fs::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary) << std::string(bytes - 1, 'x') << '\n';
@@ -35,6 +38,7 @@ class FileLogTest : public ::testing::Test {
 
     TempDir home;
     SimDesktop desktop;
+    std::vector<std::string> failures;
 };
 
 TEST_F(FileLogTest, FirstLineCreatesTheLogsFolderAndTheFile) {
@@ -66,6 +70,58 @@ TEST_F(FileLogTest, WriteHandsTheLineToTheQueueWithoutTouchingTheFile) {
     EXPECT_EQ(desktop.executor().queue(std::string(FileLog::queueLabel))->pending(), 1u);
     log.flush();
     EXPECT_TRUE(fs::exists(log.current()));
+}
+
+TEST_F(FileLogTest, EachLineReachesTheFileWhenTheQueueRunsItWithoutAFlush) {
+    FileLog log = makeLog();
+    log.write("INFO", "first");
+    drain();
+    // Another reader, as after a crash or a force-quit: no flush, the log still open.
+    EXPECT_NE(readFile(log.current()).find("INFO first\n"), std::string::npos);
+    log.write("INFO", "second");
+    drain();
+    EXPECT_NE(readFile(log.current()).find("INFO second\n"), std::string::npos);
+}
+
+TEST_F(FileLogTest, FullDiskLosesTheNewLinesAndKeepsTheOnesWrittenBefore) {
+    FileLog log = makeLog();
+    log.write("INFO", "kept");
+    drain();
+    desktop.fileWriter().setDiskFull(true);
+    log.write("INFO", "lost");
+    drain();
+    desktop.fileWriter().setDiskFull(false);
+    log.write("INFO", "after");
+    drain();
+    const std::string text = readFile(log.current());
+    EXPECT_NE(text.find("INFO kept\n"), std::string::npos);
+    EXPECT_EQ(text.find("lost"), std::string::npos);
+    EXPECT_NE(text.find("INFO after\n"), std::string::npos);
+}
+
+TEST_F(FileLogTest, FullDiskIsReportedOnceForARunOfFailedLines) {
+    FileLog log = makeLog();
+    desktop.fileWriter().setDiskFull(true);
+    log.write("INFO", "one");
+    log.write("INFO", "two");
+    log.write("INFO", "three");
+    drain();
+    ASSERT_EQ(failures.size(), 1u);
+    EXPECT_EQ(failures[0], "file log: cannot write Vistrel.log (No space left on device)");
+}
+
+TEST_F(FileLogTest, FullDiskIsReportedAgainAfterALineWasWritten) {
+    FileLog log = makeLog();
+    desktop.fileWriter().setDiskFull(true);
+    log.write("INFO", "lost");
+    drain();
+    desktop.fileWriter().setDiskFull(false);
+    log.write("INFO", "written");
+    drain();
+    desktop.fileWriter().setDiskFull(true);
+    log.write("INFO", "lost again");
+    drain();
+    EXPECT_EQ(failures.size(), 2u);
 }
 
 TEST_F(FileLogTest, LineCrossingTheLimitIsWrittenWholeThenTheFileRotates) {
@@ -165,6 +221,7 @@ TEST_F(FileLogTest, UncreatableFolderLosesTheLinesWithoutFailing) {
     log.flush();
     EXPECT_TRUE(log.files().empty());
     EXPECT_TRUE(fs::is_regular_file(blocker));
+    EXPECT_EQ(failures.size(), 1u) << "one line for the run of failures";
 }
 
 TEST_F(FileLogTest, LogFreedWithLinesPendingStillWritesThem) {

@@ -4,10 +4,13 @@
 
 namespace vistrel::testing {
 
-EngineScenario::EngineScenario() : EngineScenario(nullptr) {}
+EngineScenario::EngineScenario() : EngineScenario(populateDefaultScene) {}
 
-EngineScenario::EngineScenario(std::unique_ptr<EngineLayouts> layouts) {
-    populateDefaultScene(desktop);
+EngineScenario::EngineScenario(std::unique_ptr<EngineLayouts> layouts)
+    : EngineScenario(populateDefaultScene, std::move(layouts)) {}
+
+EngineScenario::EngineScenario(Populate populate, std::unique_ptr<EngineLayouts> layouts) {
+    populate(desktop);
     engine = layouts ? Engine::make(std::move(layouts)) : Engine::make();
     engine->start();
     desktop.executor().advance(MissionControlDetector::startDelay);

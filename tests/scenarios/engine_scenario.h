@@ -20,6 +20,9 @@ class EngineScenario : public ::testing::Test {
     EngineScenario();
     // The engine with a Layouts feature of the test's own instead of the real controller.
     explicit EngineScenario(std::unique_ptr<EngineLayouts> layouts);
+    // On the scene `populate` sets up instead of the default one.
+    using Populate = void (*)(SimDesktop&);
+    explicit EngineScenario(Populate populate, std::unique_ptr<EngineLayouts> layouts = nullptr);
 
     // Opens Mission Control and lets the detector notice it and read the thumbnails.
     void openMissionControl();

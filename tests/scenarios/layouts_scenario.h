@@ -11,6 +11,8 @@ namespace vistrel::testing {
 // as a user would drive it.
 class LayoutsScenario : public EngineScenario {
   protected:
+    using EngineScenario::EngineScenario;
+
     LayoutsController& layouts() { return dynamic_cast<LayoutsController&>(engine->layouts()); }
 
     // Moves the pointer onto the pill so the shelf unfolds.

@@ -149,5 +149,31 @@ TEST_F(HUDControllerTest, FreeingTheControllerCancelsItsHide) {
     EXPECT_TRUE(desktop.windowHost().windows().empty());
 }
 
+// The window is ordered out only while it is on screen: ordering out a hidden window costs
+// a round trip to the window server for nothing.
+TEST_F(HUDControllerTest, HidingAShownHUDOrdersItsWindowOutOnce) {
+    hud.present("Saved", std::nullopt, screenCentre);
+    hud.hide();
+    EXPECT_EQ(simWindow().orderOutCount(), 1);
+    EXPECT_FALSE(hud.isVisible());
+}
+
+TEST_F(HUDControllerTest, HidingAHiddenHUDDoesNotOrderItsWindowOutAgain) {
+    hud.present("Saved", std::nullopt, screenCentre);
+    hud.hide();
+    hud.hide();
+    EXPECT_EQ(simWindow().orderOutCount(), 1);
+}
+
+TEST_F(HUDControllerTest, FlashEndingAfterAHideOrdersNothingOut) {
+    hud.flash("Saved", std::nullopt, screenCentre, toastSeconds);
+    hud.hide();
+    hud.flash("Deleted", std::nullopt, screenCentre, toastSeconds);
+    desktop.executor().advance(toastSeconds);
+    EXPECT_EQ(simWindow().orderOutCount(), 2);
+    hud.hide();
+    EXPECT_EQ(simWindow().orderOutCount(), 2);
+}
+
 }  // namespace
 }  // namespace vistrel

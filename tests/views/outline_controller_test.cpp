@@ -11,7 +11,10 @@ namespace {
 
 // The simulated screen is 900 points high: AppKit's y is 900 minus the accessibility maxY.
 constexpr Rect windowFrame{100, 200, 300, 150};
+constexpr Rect slotFrame{600, 100, 400, 300};
 constexpr double fadeDelay = 1.0;
+// The bars' fade runs in the desktop's virtual time, as the animator runs it on a Mac.
+constexpr double fadeSeconds = OutlineController::fadeSeconds;
 
 class OutlineControllerTest : public testing::SimTest {
   protected:
@@ -111,7 +114,7 @@ TEST_F(OutlineControllerTest, BarsFadeAndGoAfterTheGivenSeconds) {
     outline.flash(windowFrame, fadeDelay);
     advance(fadeDelay - 0.01);
     EXPECT_EQ(visibleBars(), 4);
-    advance(0.02);
+    advance(0.02 + fadeSeconds);
     EXPECT_EQ(visibleBars(), 0);
     for (const SimAgentWindow* bar : bars())
         EXPECT_EQ(bar->alpha(), 0);
@@ -120,13 +123,12 @@ TEST_F(OutlineControllerTest, BarsFadeAndGoAfterTheGivenSeconds) {
 TEST_F(OutlineControllerTest, OnlyTheLaterOfTwoQuickFlashesFadesTheBars) {
     outline.flash(windowFrame, fadeDelay);
     advance(0.5);
-    const Rect slot{600, 100, 400, 300};
-    outline.flash(slot, fadeDelay);
+    outline.flash(slotFrame, fadeDelay);
     advance(0.6);  // the first flash's time is up, but the bars are the second's now
     EXPECT_EQ(visibleBars(), 4);
     EXPECT_EQ(outline.bar(0)->alpha(), 1);
     EXPECT_EQ(outline.bar(0)->frame().x, 600);
-    advance(0.5);
+    advance(0.5 + fadeSeconds);
     EXPECT_EQ(visibleBars(), 0);
 }
 
@@ -158,6 +160,63 @@ TEST_F(OutlineControllerTest, FadeDueAfterTheControllerIsGoneDoesNothing) {
     owned.reset();
     advance(fadeDelay * 2);
     EXPECT_TRUE(desktop.windowHost().windows().empty());
+}
+
+TEST_F(OutlineControllerTest, BarsFadeOutOverAQuarterOfASecond) {
+    outline.flash(windowFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds / 2);
+    EXPECT_EQ(visibleBars(), 4);
+    for (const SimAgentWindow* bar : bars())
+        EXPECT_NEAR(bar->alpha(), 0.5, 0.01) << "half way through the fade";
+    advance(fadeSeconds / 2 - 0.01);
+    EXPECT_EQ(visibleBars(), 4) << "still fading";
+    advance(0.02);
+    EXPECT_EQ(visibleBars(), 0);
+}
+
+TEST_F(OutlineControllerTest, BarsAreOrderedOutOnlyWhenTheFadeHasEnded) {
+    outline.flash(windowFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds - 0.01);
+    for (const SimAgentWindow* bar : bars())
+        EXPECT_EQ(bar->orderOutCount(), 0);
+    advance(0.02);
+    for (const SimAgentWindow* bar : bars()) {
+        EXPECT_EQ(bar->orderOutCount(), 1);
+        EXPECT_EQ(bar->alpha(), 0);
+    }
+}
+
+TEST_F(OutlineControllerTest, FlashArrivingDuringAFadeKeepsItsBarsOpaque) {
+    outline.flash(windowFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds / 2);
+    outline.flash(slotFrame, fadeDelay);
+    advance(fadeSeconds);  // the first fade's end has come and gone
+    EXPECT_EQ(visibleBars(), 4);
+    for (const SimAgentWindow* bar : bars()) {
+        EXPECT_EQ(bar->alpha(), 1);
+        EXPECT_FALSE(bar->isFading());
+    }
+    EXPECT_EQ(outline.bar(0)->frame().x, slotFrame.x);
+}
+
+TEST_F(OutlineControllerTest, FlashArrivingDuringAFadeFadesAfterItsOwnSeconds) {
+    outline.flash(windowFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds / 2);
+    outline.flash(slotFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds - 0.01);
+    EXPECT_EQ(visibleBars(), 4);
+    advance(0.02);
+    EXPECT_EQ(visibleBars(), 0);
+}
+
+TEST_F(OutlineControllerTest, HideDuringAFadeOrdersTheBarsOutAtOnce) {
+    outline.flash(windowFrame, fadeDelay);
+    advance(fadeDelay + fadeSeconds / 2);
+    outline.hide();
+    EXPECT_EQ(visibleBars(), 0);
+    advance(fadeSeconds);
+    for (const SimAgentWindow* bar : bars())
+        EXPECT_EQ(bar->orderOutCount(), 1) << "the fade's end orders nothing out again";
 }
 
 }  // namespace

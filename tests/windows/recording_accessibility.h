@@ -51,7 +51,8 @@ class RecordingAccessibility : public Accessibility {
                      .menus = inner.menus,
                      .appearance = inner.appearance,
                      .launch = inner.launch,
-                     .processes = inner.processes} {
+                     .processes = inner.processes,
+                     .fileWriter = inner.fileWriter} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

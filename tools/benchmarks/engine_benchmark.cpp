@@ -2,10 +2,13 @@
 
 #include <stdlib.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 
+#include "allocation_counter.h"
+#include "platform/sim/sim_crowded_scene.h"
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_scene.h"
@@ -26,11 +29,25 @@ void keepLogsAwayFromTheUsersHome() {
     (void)done;
 }
 
-// The default scene with Mission Control open and the strip shown over the first thumbnail.
-struct HoveredSession {
-    HoveredSession() {
-        keepLogsAwayFromTheUsersHome();
+// The crowd the engine must still handle without a stutter.
+constexpr std::size_t crowdScreens = 8;
+constexpr std::size_t crowdWindows = 500;
+
+enum class Scene { everyday, crowd };
+
+void populate(SimDesktop& desktop, Scene scene) {
+    if (scene == Scene::crowd) {
+        populateCrowdedScene(desktop, crowdScreens, crowdWindows);
+    } else {
         populateDefaultScene(desktop);
+    }
+}
+
+// Mission Control open and the strip shown over the first thumbnail.
+struct HoveredSession {
+    explicit HoveredSession(Scene scene) {
+        keepLogsAwayFromTheUsersHome();
+        populate(desktop, scene);
         engine = Engine::make();
         engine->start();
         desktop.dock().open();
@@ -42,6 +59,19 @@ struct HoveredSession {
     }
 
     void deliver(Point point) { desktop.eventTap().deliver(SimInput::mouseMoved(point)); }
+
+    // Delivers a move and counts the heap allocations the main thread makes for it.
+    void deliverCounted(Point point) {
+        const benchmarks::AllocationScope scope;
+        deliver(point);
+        allocations += scope.made();
+    }
+
+    // Reports the allocations counted as an average per move.
+    void report(benchmark::State& state) const {
+        state.counters["allocs/move"] = benchmark::Counter(static_cast<double>(allocations),
+                                                           benchmark::Counter::kAvgIterations);
+    }
 
     // Two points inside the hovered thumbnail, in turn, so no move repeats the last one.
     Point nextInThumbnail() {
@@ -55,50 +85,56 @@ struct HoveredSession {
     std::shared_ptr<Engine> engine;
     Rect thumb;
     bool flip = false;
+    std::uint64_t allocations = 0;
 };
 
 // Main-thread cost of a pointer move over the hovered thumbnail: the tap callback, the
 // strip and safe-zone test and the hand-off of a hit-test to the hover queue. The hover
 // queue is drained outside the timing.
-void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state) {
-    HoveredSession session;
+void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state, Scene scene) {
+    HoveredSession session(scene);
     for (auto _ : state) {
-        session.deliver(session.nextInThumbnail());
+        session.deliverCounted(session.nextInThumbnail());
         state.PauseTiming();
         session.desktop.executor().runUntilIdle();
         state.ResumeTiming();
     }
     benchmark::DoNotOptimize(session.engine->target());
+    session.report(state);
 }
-BENCHMARK(BM_PointerMoveOverHoveredThumbnail);
+BENCHMARK_CAPTURE(BM_PointerMoveOverHoveredThumbnail, everyday, Scene::everyday);
+BENCHMARK_CAPTURE(BM_PointerMoveOverHoveredThumbnail, crowd, Scene::crowd);
 
 // Main-thread cost of a pointer move along the strip: only the safe-zone test and the
 // hovered button, no hit-test.
-void BM_PointerMoveAlongTheStrip(benchmark::State& state) {
-    HoveredSession session;
+void BM_PointerMoveAlongTheStrip(benchmark::State& state, Scene scene) {
+    HoveredSession session(scene);
     const Rect button = session.engine->layout()->items.front().rect;
     const Point a = button.mid();
     const Point b{button.midX() + 1, button.midY()};
     bool flip = false;
     for (auto _ : state) {
-        session.deliver(flip ? a : b);
+        session.deliverCounted(flip ? a : b);
         flip = !flip;
     }
     benchmark::DoNotOptimize(session.engine->target());
+    session.report(state);
 }
-BENCHMARK(BM_PointerMoveAlongTheStrip);
+BENCHMARK_CAPTURE(BM_PointerMoveAlongTheStrip, everyday, Scene::everyday);
+BENCHMARK_CAPTURE(BM_PointerMoveAlongTheStrip, crowd, Scene::crowd);
 
 // One hit-test round trip in the simulator: the move, the hit-test and button query on the
 // hover queue, and the result applied on the main queue.
-void BM_HitTestRoundTrip(benchmark::State& state) {
-    HoveredSession session;
+void BM_HitTestRoundTrip(benchmark::State& state, Scene scene) {
+    HoveredSession session(scene);
     for (auto _ : state) {
         session.deliver(session.nextInThumbnail());
         session.desktop.executor().runUntilIdle();
     }
     benchmark::DoNotOptimize(session.engine->target());
 }
-BENCHMARK(BM_HitTestRoundTrip);
+BENCHMARK_CAPTURE(BM_HitTestRoundTrip, everyday, Scene::everyday);
+BENCHMARK_CAPTURE(BM_HitTestRoundTrip, crowd, Scene::crowd);
 
 }  // namespace
 }  // namespace vistrel

@@ -61,7 +61,8 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .menus = desktop.platform().menus,
                 .appearance = desktop.platform().appearance,
                 .launch = desktop.platform().launch,
-                .processes = desktop.platform().processes} {
+                .processes = desktop.platform().processes,
+                .fileWriter = desktop.platform().fileWriter} {
     installPlatform(&platform_);
 }
 

@@ -30,6 +30,7 @@
 #include "platform/mac/mac_window_server.h"
 #include "platform/mac/mac_workspace.h"
 #include "platform/platform.h"
+#include "platform/posix_file_writer.h"
 
 namespace vistrel {
 
@@ -68,7 +69,8 @@ class MacPlatform {
                     .menus = menus_,
                     .appearance = appearance_,
                     .launch = launch_,
-                    .processes = processes_} {}
+                    .processes = processes_,
+                    .fileWriter = fileWriter_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -106,6 +108,7 @@ class MacPlatform {
     MacAppearance appearance_;
     MacLaunchEnvironment launch_;
     MacProcessRunner processes_;
+    PosixFileWriter fileWriter_;
     Platform platform_;
 };
 

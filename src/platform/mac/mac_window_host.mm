@@ -70,7 +70,18 @@ class MacAgentWindow : public AgentWindow {
     void setIgnoresMouseEvents(bool ignores) override {
         window_.ignoresMouseEvents = ignores ? YES : NO;
     }
-    void setAlpha(double alpha) override { window_.alphaValue = alpha; }
+    // A plain set would leave a fade in flight running on to its end; setting the value
+    // through the animator with no duration stops it.
+    void setAlpha(double alpha) override {
+        NSWindow* window = window_;
+        [NSAnimationContext
+            runAnimationGroup:^(NSAnimationContext* context) {
+              context.duration = 0;
+              window.animator.alphaValue = alpha;
+            }
+            completionHandler:nil];
+        window.alphaValue = alpha;
+    }
     double alpha() const override { return window_.alphaValue; }
 
     void fade(double alpha, double seconds, std::function<void()> done) override {

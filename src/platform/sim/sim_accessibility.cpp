@@ -186,6 +186,11 @@ AXError SimAccessibility::enter(const AXElement& element) {
         return AXError::cannotComplete;
     }
     desktop_.clock().sleep(app->accessibilityLatency);
+    if (auto left = quitsAfterCalls.find(app->pid);
+        left != quitsAfterCalls.end() && --left->second <= 0) {
+        quitsAfterCalls.erase(left);
+        desktop_.workspace().forceTerminate(app->pid);
+    }
     return app->terminated ? AXError::invalidUIElement : AXError::success;
 }
 

@@ -69,6 +69,9 @@ class SimAccessibility : public Accessibility {
     // Called before an application element's attributes are read, so a scene can bring the
     // elements it derives from the desktop up to date (the Dock's Mission Control tree).
     std::function<void(Pid)> onApplicationRead;
+    // An application that quits, as a crash would, once this many accessibility calls on
+    // its elements have been made: the last of them already finds it gone.
+    std::map<Pid, int> quitsAfterCalls;
 
     // Counts of calls, for tests that pin down how much a reader asks.
     std::size_t attributeReads() const;

@@ -16,6 +16,7 @@ DefaultsValue SimDefaultsStore::object(const std::string& key) {
 void SimDefaultsStore::set(const std::string& key, const DefaultsValue& value) {
     std::lock_guard lock(mutex_);
     ++writes_[key];
+    if (diskFull()) return;
     if (value.isNone()) {
         values_.erase(key);
     } else {
@@ -25,6 +26,7 @@ void SimDefaultsStore::set(const std::string& key, const DefaultsValue& value) {
 
 void SimDefaultsStore::remove(const std::string& key) {
     std::lock_guard lock(mutex_);
+    if (diskFull()) return;
     values_.erase(key);
 }
 
@@ -46,7 +48,7 @@ std::shared_ptr<DefaultsStore> SimDefaults::suite(const std::string& name) {
 std::shared_ptr<SimDefaultsStore> SimDefaults::domain(const std::string& name) {
     std::lock_guard lock(mutex_);
     auto& store = domains_[name];
-    if (!store) store = std::make_shared<SimDefaultsStore>();
+    if (!store) store = std::make_shared<SimDefaultsStore>(disk_);
     return store;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -9,9 +10,18 @@
 
 namespace vistrel {
 
+// The fault the defaults system can stage: with the disk full, writes do not take and every
+// domain keeps the values it had.
+struct SimDefaultsDisk {
+    std::atomic<bool> full = false;
+};
+
 // One in-memory defaults domain, shared by every process of the simulation that opens it.
 class SimDefaultsStore : public DefaultsStore {
   public:
+    explicit SimDefaultsStore(std::shared_ptr<const SimDefaultsDisk> disk = nullptr)
+        : disk_(std::move(disk)) {}
+
     DefaultsValue object(const std::string& key) override;
     void set(const std::string& key, const DefaultsValue& value) override;
     void remove(const std::string& key) override;
@@ -19,6 +29,9 @@ class SimDefaultsStore : public DefaultsStore {
     int writes(const std::string& key) const;
 
   private:
+    bool diskFull() const { return disk_ && disk_->full; }
+
+    std::shared_ptr<const SimDefaultsDisk> disk_;
     mutable std::mutex mutex_;
     std::map<std::string, DefaultsValue> values_;
     std::map<std::string, int> writes_;
@@ -38,9 +51,12 @@ class SimDefaults : public Defaults {
     std::shared_ptr<SimDefaultsStore> domain(const std::string& name);
     // When set, suites cannot be made (NSUserDefaults(suiteName:) answers nil).
     bool suitesFail = false;
+    // Fills or frees the disk under every domain.
+    void setDiskFull(bool full) { disk_->full = full; }
 
   private:
     const std::optional<std::string>& bundleIdentifier_;
+    std::shared_ptr<SimDefaultsDisk> disk_ = std::make_shared<SimDefaultsDisk>();
     std::mutex mutex_;
     std::map<std::string, std::shared_ptr<SimDefaultsStore>> domains_;
 };

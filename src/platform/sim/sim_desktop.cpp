@@ -26,6 +26,7 @@ SimDesktop::SimDesktop()
       windowServer_(*this),
       workspace_(*this),
       defaults_(bundle.identifier),
+      windowHost_(&executor_),
       screenList_(*this),
       uploader_(executor_),
       platform_{.accessibility = accessibility_,
@@ -58,7 +59,8 @@ SimDesktop::SimDesktop()
                 .menus = menus_,
                 .appearance = appearance_,
                 .launch = launch_,
-                .processes = processes_},
+                .processes = processes_,
+                .fileWriter = fileWriter_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

@@ -18,6 +18,7 @@
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
 #include "platform/sim/sim_file_system.h"
+#include "platform/sim/sim_file_writer.h"
 #include "platform/sim/sim_font_registrar.h"
 #include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_installations.h"
@@ -94,6 +95,13 @@ class SimDesktop {
     SimAppearance& appearance() { return appearance_; }
     SimLaunchEnvironment& launch() { return launch_; }
     SimProcessRunner& processes() { return processes_; }
+    // Appending to real files, with a full disk to stage.
+    SimFileWriter& fileWriter() { return fileWriter_; }
+    // Fills the disk (or frees it): file appends fail and defaults writes do not take.
+    void setDiskFull(bool full) {
+        fileWriter_.setDiskFull(full);
+        defaults_.setDiskFull(full);
+    }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -169,6 +177,7 @@ class SimDesktop {
     SimAppearance appearance_;
     SimLaunchEnvironment launch_;
     SimProcessRunner processes_;
+    SimFileWriter fileWriter_;
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

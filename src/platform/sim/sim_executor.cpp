@@ -41,9 +41,13 @@ bool SimQueue::runOne() {
     Task task;
     {
         std::lock_guard lock(mutex_);
-        if (tasks_.empty()) return false;
-        task = std::move(tasks_.front());
-        tasks_.pop_front();
+        if (next_ == tasks_.size()) return false;
+        task = std::move(tasks_[next_++]);
+        // Emptied, the list keeps its room: handing work over allocates nothing once warm.
+        if (next_ == tasks_.size()) {
+            tasks_.clear();
+            next_ = 0;
+        }
     }
     task();
     return true;
@@ -58,7 +62,7 @@ std::size_t SimQueue::drain() {
 
 std::size_t SimQueue::pending() const {
     std::lock_guard lock(mutex_);
-    return tasks_.size();
+    return tasks_.size() - next_;
 }
 
 SimExecutor::SimExecutor(SimClock& clock)

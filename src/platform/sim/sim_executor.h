@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -40,7 +39,9 @@ class SimQueue : public SerialQueue, public std::enable_shared_from_this<SimQueu
     std::string label_;
     QualityOfService quality_;
     mutable std::mutex mutex_;
-    std::deque<Task> tasks_;
+    // Tasks in the order handed over; those before `next_` have run.
+    std::vector<Task> tasks_;
+    std::size_t next_ = 0;
 };
 
 // One timer the simulation has armed, as a test can inspect it.

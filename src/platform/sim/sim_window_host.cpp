@@ -1,14 +1,48 @@
 #include "platform/sim/sim_window_host.h"
 
+#include <algorithm>
+
+#include "platform/sim/sim_executor.h"
+
 namespace vistrel {
 
 void SimAgentWindow::setFrame(Rect frame, bool) {
     frame_ = frame;
 }
 
-void SimAgentWindow::fade(double alpha, double, std::function<void()> done) {
+void SimAgentWindow::setAlpha(double alpha) {
+    fade_.reset();
     alpha_ = alpha;
-    if (done) done();
+}
+
+double SimAgentWindow::alpha() const {
+    if (!fade_ || fade_->seconds <= 0) return alpha_;
+    const double elapsed = executor_->clock().now() - fade_->startedAt;
+    const double progress = std::clamp(elapsed / fade_->seconds, 0.0, 1.0);
+    return fade_->from + (fade_->to - fade_->from) * progress;
+}
+
+void SimAgentWindow::fade(double alpha, double seconds, std::function<void()> done) {
+    if (executor_ == nullptr) {
+        alpha_ = alpha;
+        if (done) done();
+        return;
+    }
+    fade_ = Fade{this->alpha(), alpha, executor_->clock().now(), seconds};
+    const std::uint64_t number = ++fadeNumber_;
+    std::weak_ptr<int> alive = alive_;
+    executor_->main().after(seconds, [this, alive, number, done = std::move(done)] {
+        if (alive.lock() && fade_ && fadeNumber_ == number) {
+            alpha_ = fade_->to;
+            fade_.reset();
+        }
+        if (done) done();
+    });
+}
+
+void SimAgentWindow::orderOut() {
+    visible_ = false;
+    ++orderOutCount_;
 }
 
 void SimAgentWindow::setContent(std::shared_ptr<const DisplayList> content) {
@@ -61,6 +95,7 @@ class OwnedWindow : public AgentWindow {
 std::unique_ptr<AgentWindow> SimWindowHost::makeWindow(WindowDeferral deferral) {
     auto tracked = std::make_shared<Tracked>();
     tracked->window.setDeferral(deferral);
+    tracked->window.setExecutor(executor_);
     tracked_.push_back(tracked);
     ++windowsMade_;
     return std::make_unique<OwnedWindow>(

@@ -9,7 +9,7 @@
 
 namespace vistrel {
 
-class SimClock;
+class SimExecutor;
 
 // One window of the agent on the simulated screen: it keeps every property the agent
 // sets so that tests can read them and the renderer can draw the window.
@@ -20,13 +20,17 @@ class SimAgentWindow : public AgentWindow {
     void setLevel(int level) override { level_ = level; }
     void setCollectionBehavior(std::uint64_t behavior) override { collectionBehavior_ = behavior; }
     void setIgnoresMouseEvents(bool ignores) override { ignoresMouseEvents_ = ignores; }
-    void setAlpha(double alpha) override { alpha_ = alpha; }
-    double alpha() const override { return alpha_; }
-    // The fade completes at once in the simulation.
+    // Stops a running fade where it is, as AppKit's zero-length animation does.
+    void setAlpha(double alpha) override;
+    // While a fade runs: the value it has reached, in a straight line over virtual time.
+    double alpha() const override;
+    // Runs in virtual time: `done` comes on the main queue after `seconds`, also when the
+    // fade was stopped before (AppKit calls a group's completion handler in any case). A
+    // window outside a desktop has no clock: its fade ends at once.
     void fade(double alpha, double seconds, std::function<void()> done) override;
     void setContent(std::shared_ptr<const DisplayList> content) override;
     void orderFrontRegardless() override;
-    void orderOut() override { visible_ = false; }
+    void orderOut() override;
     bool isVisible() const override { return visible_; }
     bool isOnActiveSpace() const override { return onActiveSpace_ && visible_; }
     void setGlass(double cornerRadius) override { glassRadius_ = cornerRadius; }
@@ -37,6 +41,9 @@ class SimAgentWindow : public AgentWindow {
     const std::shared_ptr<const DisplayList>& content() const { return content_; }
     // How often the window was ordered front, and how often its content was replaced.
     int orderFrontCount() const { return orderFrontCount_; }
+    // How often the window was ordered out, visible or not.
+    int orderOutCount() const { return orderOutCount_; }
+    bool isFading() const { return fade_.has_value(); }
     int contentUpdates() const { return contentUpdates_; }
     WindowDeferral deferral() const { return deferral_; }
     void setDeferral(WindowDeferral deferral) { deferral_ = deferral; }
@@ -44,8 +51,17 @@ class SimAgentWindow : public AgentWindow {
     std::optional<double> glassRadius() const { return glassRadius_; }
     // Simulates a Space change that leaves the window behind.
     void leaveActiveSpace() { onActiveSpace_ = false; }
+    // The executor whose main queue and clock run the window's fades.
+    void setExecutor(SimExecutor* executor) { executor_ = executor; }
 
   private:
+    struct Fade {
+        double from;
+        double to;
+        double startedAt;
+        double seconds;
+    };
+
     Rect frame_;
     int level_ = 0;
     std::uint64_t collectionBehavior_ = 0;
@@ -55,7 +71,14 @@ class SimAgentWindow : public AgentWindow {
     bool visible_ = false;
     bool onActiveSpace_ = true;
     int orderFrontCount_ = 0;
+    int orderOutCount_ = 0;
     int contentUpdates_ = 0;
+    SimExecutor* executor_ = nullptr;
+    std::optional<Fade> fade_;
+    // Bumped by every fade, so the end of an earlier one leaves a later one alone.
+    std::uint64_t fadeNumber_ = 0;
+    // Delayed fade ends hold this weakly: a window freed before its fade ends is left alone.
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
     WindowDeferral deferral_ = WindowDeferral::deferred;
     std::optional<double> glassRadius_;
 };
@@ -63,6 +86,9 @@ class SimAgentWindow : public AgentWindow {
 // Makes agent windows and remembers them, so the screen renderer can draw each visible one.
 class SimWindowHost : public WindowHost {
   public:
+    // A host of a desktop fades its windows in the desktop's virtual time.
+    explicit SimWindowHost(SimExecutor* executor = nullptr) : executor_(executor) {}
+
     std::unique_ptr<AgentWindow> makeWindow(WindowDeferral deferral) override;
     // The agent's windows that still exist, in the order they were made.
     std::vector<const SimAgentWindow*> windows() const;
@@ -71,6 +97,7 @@ class SimWindowHost : public WindowHost {
 
   private:
     struct Tracked;
+    SimExecutor* executor_;
     std::vector<std::weak_ptr<Tracked>> tracked_;
     int windowsMade_ = 0;
 };
