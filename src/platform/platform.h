@@ -9,6 +9,7 @@
 #include "platform/event_monitors.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
+#include "platform/font_registrar.h"
 #include "platform/key_panel.h"
 #include "platform/login_item.h"
 #include "platform/native_menu.h"
@@ -39,6 +40,7 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    FontRegistrar& fonts;
     StatusBar& statusBar;
     KeyPanelHost& panels;
     EventMonitors& eventMonitors;

@@ -20,12 +20,12 @@ class RecordingAccessibility : public Accessibility {
     };
 
     explicit RecordingAccessibility(Platform& inner)
-        : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
-                                    inner.screens,   inner.defaults,     inner.eventTap,
-                                    inner.executor,  inner.clock,        inner.systemLog,
-                                    inner.loginItem, inner.windowHost,   inner.text,
-                                    inner.statusBar, inner.panels,       inner.eventMonitors,
-                                    inner.menus,     inner.appearance,   inner.application} {
+        : inner_(inner),
+          recording_{*this,           inner.windowServer, inner.workspace,  inner.screens,
+                     inner.defaults,  inner.eventTap,     inner.executor,   inner.clock,
+                     inner.systemLog, inner.loginItem,    inner.windowHost, inner.text,
+                     inner.fonts,     inner.statusBar,    inner.panels,     inner.eventMonitors,
+                     inner.menus,     inner.appearance,   inner.application} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

@@ -43,6 +43,7 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .loginItem = desktop.platform().loginItem,
                 .windowHost = desktop.platform().windowHost,
                 .text = desktop.platform().text,
+                .fonts = desktop.platform().fonts,
                 .statusBar = desktop.platform().statusBar,
                 .panels = desktop.platform().panels,
                 .eventMonitors = desktop.platform().eventMonitors,

@@ -6,6 +6,7 @@
 #include "platform/mac/mac_event_monitors.h"
 #include "platform/mac/mac_event_tap_port.h"
 #include "platform/mac/mac_executor.h"
+#include "platform/mac/mac_font_registrar.h"
 #include "platform/mac/mac_key_panel.h"
 #include "platform/mac/mac_login_item.h"
 #include "platform/mac/mac_native_menus.h"
@@ -24,10 +25,10 @@ namespace vistrel {
 class MacPlatform {
   public:
     MacPlatform()
-        : platform_{accessibility_, windowServer_, workspace_,  screens_,   defaults_,
-                    eventTap_,      executor_,     clock_,      systemLog_, loginItem_,
-                    windowHost_,    text_,         statusBar_,  panels_,    eventMonitors_,
-                    menus_,         appearance_,   application_} {}
+        : platform_{accessibility_, windowServer_, workspace_,  screens_,    defaults_,
+                    eventTap_,      executor_,     clock_,      systemLog_,  loginItem_,
+                    windowHost_,    text_,         fonts_,      statusBar_,  panels_,
+                    eventMonitors_, menus_,        appearance_, application_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
 
@@ -46,6 +47,7 @@ class MacPlatform {
     MacLoginItem loginItem_;
     MacWindowHost windowHost_;
     MacTextMeasurer text_;
+    MacFontRegistrar fonts_;
     MacStatusBar statusBar_;
     MacKeyPanelHost panels_;
     MacEventMonitors eventMonitors_;

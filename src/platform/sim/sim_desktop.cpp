@@ -24,8 +24,8 @@ SimDesktop::SimDesktop()
       screenList_(*this),
       platform_{accessibility_, windowServer_, workspace_,  screenList_, defaults_,
                 eventTap_,      executor_,     clock_,      systemLog_,  loginItem_,
-                windowHost_,    text_,         statusBar_,  panels_,     eventMonitors_,
-                menus_,         appearance_,   application_},
+                windowHost_,    text_,         fonts_,      statusBar_,  panels_,
+                eventMonitors_, menus_,        appearance_, application_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

@@ -15,6 +15,7 @@
 #include "platform/sim/sim_event_monitors.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_font_registrar.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_key_panel.h"
 #include "platform/sim/sim_login_item.h"
@@ -59,6 +60,7 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    SimFontRegistrar& fonts() { return fonts_; }
     // The menu bar's status items, the agent's key panels, event monitors, native menus,
     // the system appearance and the agent's application object.
     SimStatusBar& statusBar() { return statusBar_; }
@@ -121,6 +123,7 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimFontRegistrar fonts_{bundle.path};
     SimStatusBar statusBar_{*this};
     SimKeyPanelHost panels_;
     SimEventMonitors eventMonitors_;
