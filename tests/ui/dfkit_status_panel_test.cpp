@@ -114,6 +114,21 @@ namespace {
 
 using DFKitStatusPanelFaultTest = StatusMenuTest;
 
+TEST_F(DFKitStatusPanelFaultTest, AMissingFontIsLoggedOnceAndThePanelStillOpens) {
+    desktop.fonts().missingResources.insert("GeistMono-Medium.ttf");
+    DFKitFonts fonts;
+    auto menu = StatusMenuController::make(&fonts);
+    for (int opening = 0; opening < 2; ++opening) {
+        menu->clicked();
+        ASSERT_TRUE(menu->panel()->isVisible());
+        menu->panel()->close();
+        desktop.executor().advance(1);
+    }
+    EXPECT_EQ(
+        desktop.systemLog().count("Duskfell: font GeistMono-Medium.ttf is missing from the bundle"),
+        1u);
+}
+
 TEST_F(DFKitStatusPanelFaultTest, WithoutEventMonitorsThePanelStillOpensAndClosesOnAClick) {
     desktop.eventMonitors().failMonitors = true;
     clickItem();

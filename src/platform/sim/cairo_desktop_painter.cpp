@@ -58,6 +58,8 @@ const Color chromeLine = Color::black().withAlpha(0.12);
 const Color inactiveSpaceLabel = Color::white().withAlpha(0.6);
 const Color menuBarColor = Color::white().withAlpha(0.55);
 const Color menuBarText = Color::black().withAlpha(0.85);
+const Color darkMenuBarColor = Color::fromRGB(0x1E1E22).withAlpha(0.7);
+const Color darkMenuBarText = Color::white().withAlpha(0.9);
 const Color dockColor = Color::white().withAlpha(0.28);
 const Color dockRim = Color::white().withAlpha(0.35);
 const Color labelCapsule = Color::black().withAlpha(0.45);
@@ -171,12 +173,13 @@ void CairoDesktopPainter::window(const SimPaintedWindow& w) {
                  f.y + titleBarHeight / 2 + titleFontSize * baselineBelowMiddle);
 }
 
-void CairoDesktopPainter::menuBar(const std::string& activeApplication) {
-    canvas_.fill(Path::rect({screen_.x, screen_.y, screen_.width, simMenuBarHeight}), menuBarColor);
-    canvas_.drawText(
-        {activeApplication, Font::system(menuBarFontSize, FontWeight::bold), menuBarText, 0},
-        {screen_.x + menuBarTextInset,
-         screen_.y + simMenuBarHeight / 2 + menuBarFontSize * baselineBelowMiddle});
+void CairoDesktopPainter::menuBar(const std::string& activeApplication, bool dark) {
+    canvas_.fill(Path::rect({screen_.x, screen_.y, screen_.width, simMenuBarHeight}),
+                 dark ? darkMenuBarColor : menuBarColor);
+    canvas_.drawText({activeApplication, Font::system(menuBarFontSize, FontWeight::bold),
+                      dark ? darkMenuBarText : menuBarText, 0},
+                     {screen_.x + menuBarTextInset,
+                      screen_.y + simMenuBarHeight / 2 + menuBarFontSize * baselineBelowMiddle});
 }
 
 void CairoDesktopPainter::dock(const std::vector<Color>& tiles) {

@@ -30,7 +30,9 @@ class CairoDesktopPainter {
     // Mission Control dims the wallpaper and shows the Spaces bar along the top.
     void wallpaper(bool missionControl);
     void window(const SimPaintedWindow& window);
-    void menuBar(const std::string& activeApplication);
+    // The menu bar with the active application's name, light or, in the dark appearance,
+    // dark with white text.
+    void menuBar(const std::string& activeApplication, bool dark = false);
     void dock(const std::vector<Color>& tiles);
     // A window drawn scaled into a Mission Control thumbnail, its label underneath; the
     // highlighted one (under the pointer) ringed in blue.

@@ -10,7 +10,6 @@ namespace vistrel {
 
 namespace {
 
-const Color darkBarTint = Color::black().withAlpha(0.55);
 const Color lightBarInk = Color::black().withAlpha(0.85);
 const Color darkBarInk = Color::white().withAlpha(0.9);
 const Color lightHighlight = Color::black().withAlpha(0.12);
@@ -57,12 +56,6 @@ Rect SimMenuBarPainter::onScreen(Rect appKit) const {
 }
 
 void SimMenuBarPainter::statusItems() {
-    if (desktop_.screens().empty()) return;
-    CairoCanvas canvas(cr_, fonts_, false);
-    if (dark_) {
-        canvas.fill(Path::rect({0, 0, desktop_.screens().front().frame.width, simMenuBarHeight}),
-                    darkBarTint);
-    }
     for (const SimStatusItem* item : desktop_.statusBar().items())
         statusItem(*item);
 }

@@ -11,10 +11,10 @@ struct SimOpenMenu;
 class SimKeyPanel;
 class SimStatusItem;
 
-// Paints what hangs from the menu bar: the dark appearance's tint of the bar, the status
-// items at its right end (template images in the bar's ink, highlighted while their panel
-// is open), the agent's key panels with their shadow, and an open native menu in the
-// system's appearance. Coordinates are the primary screen's, top-left origin, in points.
+// Paints what hangs from the menu bar: the status items at its right end (template images in the
+// bar's ink, highlighted while their panel is open), the agent's key panels with their shadow, and
+// an open native menu in the system's appearance. Coordinates are the primary screen's, top-left
+// origin, in points.
 class SimMenuBarPainter {
   public:
     SimMenuBarPainter(cairo_t* cr, CairoFonts& fonts, SimDesktop& desktop);

@@ -54,7 +54,7 @@ void paintDesktop(CairoDesktopPainter& painter, SimDesktop& desktop) {
     for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
         if (isApplicationWindow(desktop, *it)) painter.window(painted(desktop, *it));
     }
-    painter.menuBar(frontApplication(desktop));
+    painter.menuBar(frontApplication(desktop), desktop.appearance().current() == Appearance::dark);
 }
 
 void paintThumbnails(CairoDesktopPainter& painter, SimDesktop& desktop,

@@ -30,8 +30,9 @@ MenuItemState loginItemState(LoginItemStatus status) {
 
 }  // namespace
 
-std::shared_ptr<StatusMenuController> StatusMenuController::make() {
+std::shared_ptr<StatusMenuController> StatusMenuController::make(DFKitFonts* fonts) {
     std::shared_ptr<StatusMenuController> controller(new StatusMenuController());
+    controller->fonts_ = fonts;
     controller->init();
     return controller;
 }
@@ -69,6 +70,11 @@ void StatusMenuController::clicked() {
 }
 
 void StatusMenuController::makePanel() {
+    if (fonts_) {
+        fonts_->registerOnce();
+    } else {
+        DFKitFonts::registerFonts();
+    }
     panel_ = std::make_unique<DFKitStatusPanel>();
     std::weak_ptr<StatusMenuController> weak = weak_from_this();
     panel_->build = [weak] {

@@ -9,6 +9,7 @@
 #include "platform/event_monitors.h"
 #include "platform/native_menu.h"
 #include "platform/status_bar.h"
+#include "ui/kit/dfkit_fonts.h"
 #include "ui/kit/dfkit_mark.h"
 #include "ui/kit/dfkit_status_panel.h"
 
@@ -36,8 +37,9 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     static constexpr double markSize = 16;
 
     // Creates the status item: the mark as a template image, the label "Vistrel", the click
-    // action, and the visibility the preferences ask for.
-    static std::shared_ptr<StatusMenuController> make();
+    // action, and the visibility the preferences ask for. The kit's fonts are registered
+    // before the first panel is built, through `fonts` or else the process's registration.
+    static std::shared_ptr<StatusMenuController> make(DFKitFonts* fonts = nullptr);
 
     std::function<void()> openSettings;
     std::function<void()> openWelcome;
@@ -78,6 +80,7 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     DFKitApp app_{"Vistrel", DFKitMark::vistrel};
     std::unique_ptr<DFKitStatusPanel> panel_;
     std::uint64_t keyMonitor_ = 0;
+    DFKitFonts* fonts_ = nullptr;
     // The header's "More options" button of the rows shown, where its menu opens.
     DFKitIconButton* moreButton_ = nullptr;
 };
