@@ -20,10 +20,27 @@ class RecordingAccessibility : public Accessibility {
     };
 
     explicit RecordingAccessibility(Platform& inner)
-        : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
-                                    inner.screens,   inner.defaults,     inner.eventTap,
-                                    inner.executor,  inner.clock,        inner.systemLog,
-                                    inner.loginItem, inner.windowHost,   inner.text} {
+        : inner_(inner),
+          recording_{*this,
+                     inner.windowServer,
+                     inner.workspace,
+                     inner.screens,
+                     inner.defaults,
+                     inner.eventTap,
+                     inner.executor,
+                     inner.clock,
+                     inner.systemLog,
+                     inner.loginItem,
+                     inner.windowHost,
+                     inner.text,
+                     inner.systemInfo,
+                     inner.infoDictionary,
+                     inner.files,
+                     inner.alert,
+                     inner.reportDialog,
+                     inner.savePanel,
+                     inner.archiver,
+                     inner.uploader} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }
