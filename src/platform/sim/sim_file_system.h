@@ -26,7 +26,7 @@ class SimFileSystem : public FileSystem {
     // Failures to answer with instead of doing the step.
     bool failTemporaryFolder = false;
     FileError writeFailure;
-    // Copies to these destinations fail with the description given.
+    // Copies from or to these paths fail with the description given.
     std::map<std::string, std::string> copyFailures;
 };
 
