@@ -37,7 +37,8 @@ std::string str(std::string_view text) {
 using AlertReferenceTest = testing::SimTest;
 
 TEST_F(AlertReferenceTest, ReportDialogWithANoteAndAnEmailMatchesTheReference) {
-    const AlertContent dialog{str(Text::title), str(Text::message),
+    const AlertContent dialog{str(Text::title),
+                              str(Text::message),
                               {str(Text::send), str(Text::saveToFile), str(Text::cancel)}};
     const SimReportFields fields{"The shelf stayed on screen after Mission Control closed.",
                                  "ada@example.com", str(Text::emailPlaceholder)};
@@ -45,7 +46,8 @@ TEST_F(AlertReferenceTest, ReportDialogWithANoteAndAnEmailMatchesTheReference) {
 }
 
 TEST_F(AlertReferenceTest, EmptyEmailFieldShowsThePlaceholder) {
-    const AlertContent dialog{str(Text::title), str(Text::message),
+    const AlertContent dialog{str(Text::title),
+                              str(Text::message),
                               {str(Text::send), str(Text::saveToFile), str(Text::cancel)}};
     const SimReportFields fields{"", "", str(Text::emailPlaceholder)};
     EXPECT_TRUE(matchesReference(alertPicture(dialog, fields), "alert_report_dialog_empty"));
