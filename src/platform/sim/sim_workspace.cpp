@@ -79,6 +79,7 @@ std::optional<std::string> SimWorkspace::applicationURL(const std::string& bundl
 
 void SimWorkspace::openApplication(const std::string& url, const OpenConfiguration& configuration,
                                    OpenCompletion completion) {
+    openRequests.emplace_back(url, configuration);
     if (launcher) {
         launcher(url, configuration, std::move(completion));
         return;
@@ -126,6 +127,12 @@ Pid SimWorkspace::ownPid() {
 
 BundleInfo SimWorkspace::mainBundle() {
     return desktop_.bundle;
+}
+
+std::optional<std::string> SimWorkspace::bundleIdentifier(const std::string& bundlePath) {
+    const SimInstalledApplication* installed = desktop_.installations().at(bundlePath);
+    if (installed == nullptr) return std::nullopt;
+    return installed->bundleIdentifier;
 }
 
 std::vector<ScreenDescription> SimScreenList::screens() {

@@ -8,6 +8,7 @@
 #include <AppKit/NSAppearance.h>
 #include <AppKit/NSApplication.h>
 #include <AppKit/NSApplicationActivation.h>
+#include <AppKit/NSApplicationTermination.h>
 #include <AppKit/NSBezierPath.h>
 #include <AppKit/NSBitmapImageRep.h>
 #include <AppKit/NSColor.h>

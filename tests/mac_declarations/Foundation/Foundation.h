@@ -4,6 +4,7 @@
 #include <Foundation/NSArray.h>
 #include <Foundation/NSAttributedString.h>
 #include <Foundation/NSBundle.h>
+#include <Foundation/NSBundleAtPath.h>
 #include <Foundation/NSBundleInfoDictionary.h>
 #include <Foundation/NSData.h>
 #include <Foundation/NSDataWriting.h>
@@ -13,8 +14,10 @@
 #include <Foundation/NSError.h>
 #include <Foundation/NSFileManager.h>
 #include <Foundation/NSGeometry.h>
+#include <Foundation/NSNotification.h>
 #include <Foundation/NSObjCRuntime.h>
 #include <Foundation/NSObject.h>
+#include <Foundation/NSOperationQueue.h>
 #include <Foundation/NSPathUtilities.h>
 #include <Foundation/NSProcessInfo.h>
 #include <Foundation/NSProcessInfoSystem.h>
@@ -23,6 +26,7 @@
 #include <Foundation/NSTask.h>
 #include <Foundation/NSTimer.h>
 #include <Foundation/NSURL.h>
+#include <Foundation/NSURLAbsoluteString.h>
 #include <Foundation/NSURLRequest.h>
 #include <Foundation/NSURLResources.h>
 #include <Foundation/NSURLResponse.h>
