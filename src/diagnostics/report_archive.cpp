@@ -26,12 +26,13 @@ bool failed(std::string_view reason) {
     return false;
 }
 
-bool copyInto(FileSystem& files, const std::vector<fs::path>& items, const fs::path& folder) {
+// A log or crash report that cannot be copied (the system may clean one away between the
+// listing and the copy) is left out with a log line: the rest of the report still goes.
+void copyInto(FileSystem& files, const std::vector<fs::path>& items, const fs::path& folder) {
     for (const fs::path& item : items) {
         if (const FileError error = files.copy(item.string(), (folder / item.filename()).string()))
-            return failed("could not copy " + item.filename().string() + ": " + *error);
+            Log::error("report archive: left out " + item.filename().string() + ": " + *error);
     }
-    return true;
 }
 
 bool fillFolder(const fs::path& folder, std::string_view note, std::string_view email) {
@@ -44,8 +45,9 @@ bool fillFolder(const fs::path& folder, std::string_view note, std::string_view 
     if (const FileError error = files.writeAtomically((folder / ReportArchive::noteName).string(),
                                                       ReportArchive::noteText(note, email)))
         return failed("could not write note.txt: " + *error);
-    return copyInto(files, Log::file().files(), folder) &&
-           copyInto(files, ReportArchive::recentCrashReports(), folder);
+    copyInto(files, Log::file().files(), folder);
+    copyInto(files, ReportArchive::recentCrashReports(), folder);
+    return true;
 }
 
 }  // namespace

@@ -21,6 +21,8 @@ constexpr std::string_view whitespace = " \t\r\n";
 constexpr int firstSuccessStatus = 200;
 constexpr int lastSuccessStatus = 299;
 constexpr std::string_view contentType = "application/zip";
+// The "could not be sent" alert's first button saves the report.
+constexpr std::size_t saveInsteadButton = 0;
 
 std::string str(std::string_view text) {
     return std::string(text);
@@ -41,7 +43,7 @@ void offerToSave(const fs::path& zip) {
     const AlertContent alert{str(Text::notSent),
                              ReportProblem::saveInstead(ReportService::supportAddress()),
                              {str(Text::saveToFile), str(Text::cancel)}};
-    if (platform().alert.run(alert) == 0) ReportProblem::save(zip);
+    if (platform().alert.run(alert) == saveInsteadButton) ReportProblem::save(zip);
 }
 
 void uploadFailed(std::string_view reason, const fs::path& zip) {

@@ -172,6 +172,20 @@ TEST_F(ReportArchiveTest, UnwritableNoteGivesNothing) {
     EXPECT_EQ(desktop.archiver().archivesWritten, 0);
 }
 
+TEST_F(ReportArchiveTest, CrashReportThatCannotBeCopiedIsLeftOutAndTheRestGoes) {
+    const fs::path gone = writeFile(crashReports() / "Vistrel-gone.ips", "crash", day);
+    writeFile(crashReports() / "Vistrel-kept.ips", "crash", 2 * day);
+    desktop.files().copyFailures[gone.string()] = "The file “Vistrel-gone.ips” doesn’t exist.";
+    const auto entries = build();
+    EXPECT_FALSE(entries.contains("Vistrel-gone.ips"));
+    EXPECT_TRUE(entries.contains("Vistrel-kept.ips"));
+    Log::file().flush();
+    EXPECT_NE(testing::readFile(logs() / "Vistrel.log")
+                  .find(" ERROR report archive: left out Vistrel-gone.ips: The file "
+                        "“Vistrel-gone.ips” doesn’t exist.\n"),
+              std::string::npos);
+}
+
 TEST_F(ReportArchiveTest, NoTemporaryFolderGivesNothing) {
     desktop.files().failTemporaryFolder = true;
     EXPECT_FALSE(ReportProblem::buildZip("note", "").has_value());

@@ -62,8 +62,10 @@ FileError SimFileSystem::writeAtomically(const std::string& file, std::string_vi
 }
 
 FileError SimFileSystem::copy(const std::string& from, const std::string& to) {
-    if (const auto failure = copyFailures.find(to); failure != copyFailures.end())
-        return failure->second;
+    for (const std::string& path : {from, to}) {
+        if (const auto failure = copyFailures.find(path); failure != copyFailures.end())
+            return failure->second;
+    }
     std::error_code error;
     if (fs::exists(to, error)) return "an item with the same name already exists";
     fs::copy(from, to, fs::copy_options::recursive, error);

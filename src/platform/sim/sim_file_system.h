@@ -32,7 +32,7 @@ class SimFileSystem : public FileSystem {
     std::optional<std::string> trashDirectory;
     // Items trashed, in order, where they were.
     std::vector<std::string> trashed;
-    // Copies to these destinations fail with the description given.
+    // Copies from or to these paths fail with the description given.
     std::map<std::string, std::string> copyFailures;
 };
 

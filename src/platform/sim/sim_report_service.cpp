@@ -37,13 +37,23 @@ SimReportService::SimReportService(Answer answer, std::string body)
     server_->Get(anyPath, handle);
     port_ = server_->bind_to_any_port(loopback);
     // The socket listens from here on, so a request made before the thread accepts waits.
-    if (port_ > 0) thread_ = std::thread([this] { server_->listen_after_bind(); });
+    if (port_ > 0) {
+        thread_ = std::thread([this] {
+            server_->listen_after_bind();
+            listening_ = false;
+        });
+    }
 }
 
 SimReportService::~SimReportService() {
     release();
+    if (!thread_.joinable()) return;
+    // A stop asked for before the thread has entered its accept loop would be lost and the
+    // loop would never end, so wait (a moment at most) until the server runs.
+    while (listening_ && !server_->is_running())
+        std::this_thread::yield();
     server_->stop();
-    if (thread_.joinable()) thread_.join();
+    thread_.join();
 }
 
 std::string SimReportService::baseURL() const {

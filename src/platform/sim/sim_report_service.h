@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -50,6 +51,8 @@ class SimReportService {
     std::unique_ptr<httplib::Server> server_;
     int port_ = -1;
     std::thread thread_;
+    // Until the server thread has left its accept loop.
+    std::atomic<bool> listening_{true};
     mutable std::mutex mutex_;
     std::condition_variable released_;
     bool releasing_ = false;
