@@ -78,6 +78,8 @@ class Workspace {
     virtual Pid ownPid() = 0;
     // Bundle.main.
     virtual BundleInfo mainBundle() = 0;
+    // Bundle(path:)?.bundleIdentifier: nothing when no bundle or no identifier is there.
+    virtual std::optional<std::string> bundleIdentifier(const std::string& bundlePath) = 0;
 };
 
 }  // namespace vistrel

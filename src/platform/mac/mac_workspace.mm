@@ -184,14 +184,18 @@ BundleInfo MacWorkspace::mainBundle() {
             text(info[@"CFBundleVersion"]).value_or(""), text(bundle.bundlePath).value_or("")};
 }
 
+std::optional<std::string> MacWorkspace::bundleIdentifier(const std::string& bundlePath) {
+    return text([NSBundle bundleWithPath:ns(bundlePath)].bundleIdentifier);
+}
+
 std::vector<ScreenDescription> MacScreenList::screens() {
     std::vector<ScreenDescription> result;
     for (NSScreen* screen in NSScreen.screens) {
         NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
         std::optional<std::uint32_t> displayID;
         if ([number isKindOfClass:[NSNumber class]]) displayID = number.unsignedIntValue;
-        result.push_back(
-            {rect(screen.frame), rect(screen.visibleFrame), displayID, screen.backingScaleFactor});
+        result.push_back({rect(screen.frame), rect(screen.visibleFrame), displayID,
+                          screen.backingScaleFactor, text(screen.localizedName).value_or("")});
     }
     return result;
 }
@@ -202,6 +206,10 @@ std::optional<std::size_t> MacScreenList::mainScreenIndex() {
     const NSUInteger index = [NSScreen.screens indexOfObject:main];
     if (index == NSNotFound) return std::nullopt;
     return index;
+}
+
+bool MacScreenList::screensHaveSeparateSpaces() {
+    return NSScreen.screensHaveSeparateSpaces;
 }
 
 }  // namespace vistrel
