@@ -42,6 +42,14 @@ struct BundleInfo {
     std::string path;                       // the bundle's folder
 };
 
+// The running operating system's version (NSOperatingSystemVersion).
+struct OperatingSystemVersion {
+    int major = 0;
+    int minor = 0;
+    int patch = 0;
+    friend bool operator==(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
+};
+
 // NSWorkspace and NSRunningApplication.
 class Workspace {
   public:
@@ -78,6 +86,8 @@ class Workspace {
     virtual Pid ownPid() = 0;
     // Bundle.main.
     virtual BundleInfo mainBundle() = 0;
+    // ProcessInfo.operatingSystemVersion; the call cannot fail.
+    virtual OperatingSystemVersion operatingSystemVersion() = 0;
 };
 
 }  // namespace vistrel

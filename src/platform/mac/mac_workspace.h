@@ -25,6 +25,7 @@ class MacWorkspace : public Workspace {
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
+    OperatingSystemVersion operatingSystemVersion() override;
 };
 
 // NSScreen.

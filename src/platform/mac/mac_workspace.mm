@@ -175,6 +175,12 @@ BundleInfo MacWorkspace::mainBundle() {
             text(info[@"CFBundleVersion"]).value_or(""), text(bundle.bundlePath).value_or("")};
 }
 
+OperatingSystemVersion MacWorkspace::operatingSystemVersion() {
+    const NSOperatingSystemVersion version = NSProcessInfo.processInfo.operatingSystemVersion;
+    return {static_cast<int>(version.majorVersion), static_cast<int>(version.minorVersion),
+            static_cast<int>(version.patchVersion)};
+}
+
 std::vector<ScreenDescription> MacScreenList::screens() {
     std::vector<ScreenDescription> result;
     for (NSScreen* screen in NSScreen.screens) {

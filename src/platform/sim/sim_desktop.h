@@ -91,6 +91,10 @@ class SimDesktop {
     BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1",
                       "/Applications/Vistrel.app"};
 
+    // The system the desktop runs: where Mission Control lives depends on its major
+    // version (the Dock up to 26, WindowManager from 27).
+    OperatingSystemVersion operatingSystem{26, 0, 0};
+
     // The Accessibility grant; revoking it makes every accessibility call fail.
     bool trusted = true;
     int trustPrompts = 0;

@@ -128,6 +128,10 @@ BundleInfo SimWorkspace::mainBundle() {
     return desktop_.bundle;
 }
 
+OperatingSystemVersion SimWorkspace::operatingSystemVersion() {
+    return desktop_.operatingSystem;
+}
+
 std::vector<ScreenDescription> SimScreenList::screens() {
     return desktop_.screens();
 }

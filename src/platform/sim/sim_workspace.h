@@ -34,6 +34,7 @@ class SimWorkspace : public Workspace {
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
+    OperatingSystemVersion operatingSystemVersion() override;
 
     // Installed applications by bundle identifier: where each one lives.
     std::map<std::string, std::string> installed;
