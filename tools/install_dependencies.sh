@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(cmake make g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev
-          nlohmann-json3-dev libcairo2-dev libfreetype-dev clang-format)
+          nlohmann-json3-dev libcairo2-dev libfreetype-dev clang clang-format)
 
 if [[ "$(uname)" == "Darwin" ]]; then
   for formula in cmake pkg-config googletest google-benchmark nlohmann-json cairo freetype; do

@@ -1,6 +1,7 @@
 #include "platform/mac/mac_workspace.h"
 
 #import <AppKit/AppKit.h>
+#include <dispatch/dispatch.h>
 
 namespace vistrel {
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <CoreFoundation/CFBase.h>
+
+typedef UInt32 CFStringEncoding;
+VISTREL_ENUM(CFStringEncoding, CFStringBuiltInEncodings){
+    kCFStringEncodingUTF8 = 0x08000100,
+};
+
+VISTREL_EXTERN_C_BEGIN
+CFTypeID CFStringGetTypeID(void);
+CFStringRef CFStringCreateWithBytes(CFAllocatorRef alloc, const UInt8* bytes, CFIndex numBytes,
+                                    CFStringEncoding encoding, Boolean isExternalRepresentation);
+CFIndex CFStringGetLength(CFStringRef theString);
+CFIndex CFStringGetMaximumSizeForEncoding(CFIndex length, CFStringEncoding encoding);
+Boolean CFStringGetCString(CFStringRef theString, char* buffer, CFIndex bufferSize,
+                           CFStringEncoding encoding);
+VISTREL_EXTERN_C_END

@@ -1,0 +1,5 @@
+#pragma once
+
+#include <CoreText/CTFontManager.h>
+#include <CoreText/CTLine.h>
+#include <CoreText/CTStringAttributes.h>

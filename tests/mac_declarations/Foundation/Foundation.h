@@ -1,0 +1,21 @@
+#pragma once
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <Foundation/NSArray.h>
+#include <Foundation/NSAttributedString.h>
+#include <Foundation/NSBundle.h>
+#include <Foundation/NSData.h>
+#include <Foundation/NSDate.h>
+#include <Foundation/NSDictionary.h>
+#include <Foundation/NSEnumerator.h>
+#include <Foundation/NSError.h>
+#include <Foundation/NSGeometry.h>
+#include <Foundation/NSObjCRuntime.h>
+#include <Foundation/NSObject.h>
+#include <Foundation/NSProcessInfo.h>
+#include <Foundation/NSRunLoop.h>
+#include <Foundation/NSString.h>
+#include <Foundation/NSTimer.h>
+#include <Foundation/NSURL.h>
+#include <Foundation/NSUserDefaults.h>
+#include <Foundation/NSValue.h>

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <Foundation/NSObjCRuntime.h>
+#include <objc/NSObject.h>
+
+@protocol NSCopying
+@end

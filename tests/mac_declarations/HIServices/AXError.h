@@ -1,0 +1,7 @@
+#pragma once
+
+#include <CoreFoundation/CFBase.h>
+
+VISTREL_ENUM(int32_t, AXError){
+    kAXErrorSuccess = 0,
+};

@@ -1,0 +1,5 @@
+#pragma once
+
+#include <HIServices/AXError.h>
+#include <HIServices/AXUIElement.h>
+#include <HIServices/AXValue.h>

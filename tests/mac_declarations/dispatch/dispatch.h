@@ -1,0 +1,6 @@
+#pragma once
+
+#include <dispatch/object.h>
+#include <dispatch/queue.h>
+#include <dispatch/semaphore.h>
+#include <dispatch/time.h>
