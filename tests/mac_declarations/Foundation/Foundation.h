@@ -12,6 +12,7 @@
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSObjCRuntime.h>
 #include <Foundation/NSObject.h>
+#include <Foundation/NSOperatingSystemVersion.h>
 #include <Foundation/NSProcessInfo.h>
 #include <Foundation/NSRunLoop.h>
 #include <Foundation/NSString.h>
