@@ -4,9 +4,8 @@
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_scene.h"
 #include "sim_command.h"
-#include "tracking/ax.h"
+#include "thumbnail_printout.h"
 #include "tracking/mission_control_detector.h"
-#include "tracking/thumbnail_reader.h"
 
 namespace vistrel {
 
@@ -20,25 +19,6 @@ void pollAndPrint(SimDesktop& desktop, double started, const bool& verdict, std:
     const double next = desktop.executor().timers().back().interval;
     out << "  +" << desktop.clock().now() - started << " s  detector: mission control "
         << (verdict ? "open" : "closed") << ", next poll in " << next << " s\n";
-}
-
-std::string windowUnder(SimDesktop& desktop, Point point) {
-    const auto hit = AX::windowAt(point);
-    if (!hit) return "no window";
-    const SimApplication* app = desktop.application(hit->pid);
-    return (app ? app->name : "?") + " — \"" + AX::string(hit->window, "AXTitle").value_or("") +
-           "\"";
-}
-
-void printThumbnails(SimDesktop& desktop, std::ostream& out) {
-    ThumbnailReader reader;
-    const auto frames = reader.frames();
-    out << "  thumbnail reader: " << frames.size() << " thumbnails from the Dock (pid "
-        << reader.dockPid() << ")\n";
-    for (const Rect& frame : frames) {
-        out << "    " << describeRect(frame) << "  shows " << windowUnder(desktop, frame.mid())
-            << "\n";
-    }
 }
 
 int runMissionControl(SimCommandContext& context) {
