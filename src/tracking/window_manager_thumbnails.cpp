@@ -1,6 +1,7 @@
 #include "tracking/window_manager_thumbnails.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "platform/platform.h"
@@ -26,12 +27,23 @@ std::vector<std::uint32_t> onScreenWindows() {
 
 }  // namespace
 
+// The number may come as an integer or, from some processes, as a floating-point value.
 std::optional<std::uint32_t> WindowManagerThumbnails::windowOf(const AXElement& element) {
-    const auto number = AX::value<std::int64_t>(element, windowNumber);
-    if (!number || *number <= 0 || *number > std::numeric_limits<std::uint32_t>::max()) {
+    AXValue read;
+    if (platform().accessibility.copyAttribute(element, windowNumber, read) != AXError::success) {
         return std::nullopt;
     }
-    return static_cast<std::uint32_t>(*number);
+    double number = 0;
+    if (const auto* integer = std::get_if<std::int64_t>(&read)) {
+        number = static_cast<double>(*integer);
+    } else if (const auto* real = std::get_if<double>(&read)) {
+        number = *real;
+    }
+    if (!(number >= 1) || number > std::numeric_limits<std::uint32_t>::max() ||
+        number != std::floor(number)) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint32_t>(number);
 }
 
 std::vector<MissionControlThumbnail> WindowManagerThumbnails::read() {

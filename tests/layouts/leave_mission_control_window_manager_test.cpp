@@ -7,20 +7,14 @@
 #include <utility>
 #include <vector>
 
+#include "escape_keys.h"
 #include "layout_actions_test.h"
 #include "layouts/layout_actions.h"
 
 namespace vistrel {
 namespace {
 
-using Keys = std::vector<std::pair<std::uint16_t, bool>>;
-
-constexpr double justBefore = 0.01;
-constexpr double justAfter = 0.02;
-
-const Keys escape{{53, true}, {53, false}};
-const Keys escapeTwice{{53, true}, {53, false}, {53, true}, {53, false}};
-const std::string stillOpen = "layouts: Mission Control still open after Escape, sending it again";
+using namespace testing;
 
 class LeaveMissionControlOnWindowManagerTest : public testing::LayoutActionsTest {
   protected:

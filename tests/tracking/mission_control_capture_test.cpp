@@ -56,6 +56,13 @@ class MissionControlCaptureTest : public testing::SimTest {
         MissionControlCapture::start(request, [this](Outcome result) { outcome = result; });
     }
 
+    // Runs a capture with Mission Control open: it is written without waiting.
+    void captureOpen() {
+        desktop.dock().open();
+        start();
+        desktop.executor().runUntilIdle();
+    }
+
     json written() { return json::parse(testing::readFile(request.path)); }
 
     testing::TempDir folder;
@@ -64,9 +71,7 @@ class MissionControlCaptureTest : public testing::SimTest {
 };
 
 TEST_F(MissionControlCaptureTest, OpenMissionControlIsWrittenAtOnce) {
-    desktop.dock().open();
-    start();
-    desktop.executor().runUntilIdle();
+    captureOpen();
     ASSERT_EQ(outcome, Outcome::written);
     const json capture = written();
     EXPECT_EQ(capture["system"], json({{"major", 27}, {"minor", 0}, {"patch", 1}}));
@@ -100,9 +105,7 @@ TEST_F(MissionControlCaptureTest, GivesUpAfterAMinuteWritingNothing) {
 }
 
 TEST_F(MissionControlCaptureTest, TitlesAndWindowNamesStayOutUnlessAskedFor) {
-    desktop.dock().open();
-    start();
-    desktop.executor().runUntilIdle();
+    captureOpen();
     const std::string text = testing::readFile(request.path);
     EXPECT_EQ(text.find("\"title\""), std::string::npos);
     EXPECT_EQ(text.find("Start Page"), std::string::npos);
@@ -116,9 +119,7 @@ TEST_F(MissionControlCaptureTest, TitlesAndWindowNamesStayOutUnlessAskedFor) {
 }
 
 TEST_F(MissionControlCaptureTest, WindowListKeepsOwnerProcessLayerBoundsAndNumber) {
-    desktop.dock().open();
-    start();
-    desktop.executor().runUntilIdle();
+    captureOpen();
     const json windows = written()["windows"];
     const auto listed = desktop.windowServer().windowList(WindowListOption::onScreenOnly);
     ASSERT_EQ(windows.size(), listed->size());
@@ -151,9 +152,7 @@ TEST_F(MissionControlCaptureTest, UnwritableFileOrNoFileIsSaidPlainly) {
 // A capture of the simulated Mac, loaded into a fresh desktop, shows the same Mission
 // Control: what the simulator learns from a real capture is what the capture recorded.
 TEST_F(MissionControlCaptureTest, CaptureReplaysAsTheSameMissionControl) {
-    desktop.dock().open();
-    start();
-    desktop.executor().runUntilIdle();
+    captureOpen();
     const std::vector<Rect> frames = ThumbnailReader().frames();
     ASSERT_FALSE(frames.empty());
 

@@ -73,6 +73,8 @@ TEST_F(WindowManagerThumbnailsTest, OnlyChildrenNamingAnOnScreenWindowWithAFrame
                std::vector<AXElement>{node({{"AXIdentifier", std::string("mc.spaces")}}),
                                       node({{"wid", std::int64_t{0x9001}}, {"AXFrame", frame}}),
                                       node({{"wid", std::string("12")}, {"AXFrame", frame}}),
+                                      node({{"wid", 12.5}, {"AXFrame", frame}}),
+                                      node({{"wid", std::int64_t{-3}}, {"AXFrame", frame}}),
                                       node({{"wid", onScreen}}), kept}}});
     ax.applicationChildren[windowManager] = {
         display, node({{"AXIdentifier", std::string("mc")}, {"AXChildren", std::vector{kept}}})};
@@ -82,6 +84,21 @@ TEST_F(WindowManagerThumbnailsTest, OnlyChildrenNamingAnOnScreenWindowWithAFrame
     EXPECT_EQ(thumbnails.front().element, kept);
     EXPECT_EQ(thumbnails.front().frame, frame);
     EXPECT_EQ(thumbnails.front().window, static_cast<std::uint32_t>(onScreen));
+}
+
+TEST_F(WindowManagerThumbnailsTest, WindowNumberReadsFromAnIntegerOrAWholeFloatingValue) {
+    SimAccessibility& ax = desktop.accessibility();
+    const Pid owner = desktop.dock().launch();
+    const auto numbered = [&](AXValue number) {
+        return WindowManagerThumbnails::windowOf(
+            ax.nodeElement(ax.addNode(owner, {{"wid", std::move(number)}})));
+    };
+    EXPECT_EQ(numbered(std::int64_t{4117}), 4117u);
+    EXPECT_EQ(numbered(4117.0), 4117u);
+    EXPECT_FALSE(numbered(4117.5));
+    EXPECT_FALSE(numbered(std::int64_t{0}));
+    EXPECT_FALSE(numbered(std::int64_t{1} << 40));
+    EXPECT_FALSE(numbered(std::string("4117")));
 }
 
 TEST_F(WindowManagerThumbnailsTest, TheDocksOwnMissionControlGroupHoldsNothing) {
