@@ -40,6 +40,31 @@ TEST_F(ThumbnailWindowTest, HitTestAnsweringTheDisplayFallsBackToTheSmallestThum
     EXPECT_EQ(hit->window, windowElement(shown.window));
 }
 
+TEST_F(ThumbnailWindowTest, OverlappingThumbnailsOfTheDesktopGiveTheSmallerOnesWindow) {
+    const std::vector<SimThumbnail> shown = desktop.dock().thumbnails();
+    ASSERT_GE(shown.size(), 2u);
+    SimAccessibility& ax = desktop.accessibility();
+    const Pid windowManager = desktop.dock().windowManagerPid();
+    const auto thumbnail = [&](SimWindowId window, Rect frame) {
+        return ax.nodeElement(ax.addNode(
+            windowManager, {{"wid", static_cast<std::int64_t>(window)}, {"AXFrame", frame}}));
+    };
+    const Rect large{100, 100, 600, 400};
+    const Rect small{300, 200, 200, 150};
+    const AXElement display = ax.nodeElement(ax.addNode(
+        windowManager, {{"AXIdentifier", std::string("mc.display")},
+                        {"AXChildren", std::vector{thumbnail(shown[0].window, large),
+                                                   thumbnail(shown[1].window, small),
+                                                   thumbnail(shown[0].window, large)}}}));
+    desktop.dock().close();  // the tree below stays as the test made it
+    ax.applicationChildren[windowManager] = {display};
+    ax.hitTestOverride = [display](Point) { return display; };
+
+    const auto hit = AX::windowAt(small.mid());
+    ASSERT_TRUE(hit);
+    EXPECT_EQ(hit->window, windowElement(shown[1].window));
+}
+
 TEST_F(ThumbnailWindowTest, ThumbnailOfAnotherDesktopUnderTheHitTestIsNotTaken) {
     const SimThumbnail shown = desktop.dock().thumbnails().front();
     // The hit-test answers with a thumbnail of another desktop that overlaps this one.
