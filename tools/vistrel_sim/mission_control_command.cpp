@@ -21,12 +21,14 @@ void pollAndPrint(SimDesktop& desktop, double started, const bool& verdict, std:
         << (verdict ? "open" : "closed") << ", next poll in " << next << " s\n";
 }
 
-int runMissionControl(SimCommandContext& context) {
+// The session on a system of the given major version: up to 26 Mission Control lives in
+// the Dock, from 27 in WindowManager.
+int showSession(std::ostream& out, int major) {
     SimDesktop desktop;
     ScopedPlatform installed(desktop);
+    desktop.operatingSystem.major = major;
     populateDefaultScene(desktop);
-    std::ostream& out = context.out;
-    out << "== mission control on the default scene ==\n";
+    out << "== mission control on the default scene, macOS " << major << " ==\n";
 
     bool verdict = false;
     MissionControlDetector detector;
@@ -48,10 +50,19 @@ int runMissionControl(SimCommandContext& context) {
     return 0;
 }
 
+constexpr int dockGeneration = 26;
+constexpr int windowManagerGeneration = 27;
+
+int runMissionControl(SimCommandContext& context) {
+    return showSession(context.out, dockGeneration) |
+           showSession(context.out, windowManagerGeneration);
+}
+
 }  // namespace
 
-VISTREL_SIM_COMMAND("mission-control",
-                    "opens Mission Control, prints the detector's verdict and the thumbnails read",
-                    20, runMissionControl);
+VISTREL_SIM_COMMAND(
+    "mission-control",
+    "opens Mission Control on macOS 26 and 27, prints the verdicts and the thumbnails read", 20,
+    runMissionControl);
 
 }  // namespace vistrel
