@@ -61,19 +61,33 @@ TEST_F(SimDockWindowManagerTest, WindowManagerListsThumbnailsWithWindowNumbersAn
     EXPECT_EQ(identifier(displays[0]), "mc.display");
     const auto inside = children(displays[0]);
     const std::size_t shown = desktop.dock().thumbnails().size();
-    ASSERT_EQ(inside.size(), 1 + shown + desktop.dock().otherDesktop.size());
-    EXPECT_EQ(identifier(inside[0]), "mc.spaces");
+    ASSERT_EQ(inside.size(), shown + desktop.dock().otherDesktop.size() + 1);
+    EXPECT_EQ(identifier(inside.back()), "mc.spaces");
     for (std::size_t i = 0; i < shown; ++i) {
         const SimThumbnail& thumbnail = desktop.dock().thumbnails()[i];
         const SimApplication& app = *desktop.application(desktop.window(thumbnail.window)->pid);
-        EXPECT_EQ(identifier(inside[1 + i]), app.bundleIdentifier + ".space.1");
-        EXPECT_EQ(read(inside[1 + i], "wid"), AXValue(static_cast<std::int64_t>(thumbnail.window)));
-        EXPECT_EQ(read(inside[1 + i], "AXFrame"), AXValue(thumbnail.frame));
+        EXPECT_EQ(identifier(inside[i]), app.bundleIdentifier + ".space.1");
+        EXPECT_EQ(read(inside[i], "wid"), AXValue(static_cast<std::int64_t>(thumbnail.window)));
+        EXPECT_EQ(read(inside[i], "AXFrame"), AXValue(thumbnail.frame));
     }
-    const AXElement other = inside[1 + shown];
+    const AXElement other = inside[shown];
     EXPECT_EQ(identifier(other), "com.apple.dt.Xcode.space.2");
     const Rect otherFrame = std::get<Rect>(read(other, "AXFrame"));
     EXPECT_FALSE(otherFrame.intersection(desktop.dock().thumbnails()[0].frame).isEmpty());
+}
+
+TEST_F(SimDockWindowManagerTest, OtherDesktopsAreListedOnTheFirstDisplayOnly) {
+    desktop.addScreenToTheRight({1920, 1080});
+    desktop.dock().open();
+    const auto displays =
+        children(desktop.accessibility().application(desktop.dock().windowManagerPid()));
+    ASSERT_EQ(displays.size(), 2u);
+    std::size_t others = 0;
+    for (const AXElement& display : displays) {
+        for (const AXElement& child : children(display))
+            others += identifier(child).ends_with(".space.2") ? 1 : 0;
+    }
+    EXPECT_EQ(others, desktop.dock().otherDesktop.size());
 }
 
 TEST_F(SimDockWindowManagerTest, NoLayer18WindowAndAFullScreenLayer20WindowThatStays) {

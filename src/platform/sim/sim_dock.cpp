@@ -307,15 +307,20 @@ SimNodeId SimDock::makeDisplay(std::size_t screen, Rect frame, const std::vector
     }
     const SimNodeId spaces = accessibility.addNode(hostPid(), group("mc.spaces", {}));
     treeNodes_.push_back(spaces);
-    std::vector<AXElement> children{accessibility.nodeElement(spaces)};
+    std::vector<AXElement> children;
     if (windowManager) {
-        children.insert(children.end(), thumbnails.begin(), thumbnails.end());
-        const auto others = otherDesktopThumbnails(frames);
-        children.insert(children.end(), others.begin(), others.end());
+        // As macOS 27 lists them: the thumbnails first, other desktops' (shown on the
+        // first display) after them, the desktops' group last.
+        children = std::move(thumbnails);
+        if (screen == 0) {
+            const auto others = otherDesktopThumbnails(frames);
+            children.insert(children.end(), others.begin(), others.end());
+        }
+        children.push_back(accessibility.nodeElement(spaces));
     } else {
         const SimNodeId windows = accessibility.addNode(pid_, group("mc.windows", thumbnails));
         treeNodes_.push_back(windows);
-        children.push_back(accessibility.nodeElement(windows));
+        children = {accessibility.nodeElement(spaces), accessibility.nodeElement(windows)};
     }
     auto display = group("mc.display", std::move(children));
     display["AXFrame"] = frame;
