@@ -20,8 +20,15 @@ build: configure
 test: build
 	@cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
 
+ifeq ($(shell uname),Darwin)
+# On a Mac: the agent itself, as an app bundle.
+run: configure
+	@cmake --build $(BUILD_DIR) --target Vistrel -j $(JOBS)
+	@open $(BUILD_DIR)/Vistrel.app
+else
 run: build
 	@$(BUILD_DIR)/tools/vistrel-sim
+endif
 
 asan-test: deps
 	@cmake -S . -B $(ASAN_BUILD_DIR) -DCMAKE_BUILD_TYPE=Debug -DVISTREL_SANITIZE=ON -DVISTREL_BENCHMARKS=OFF >/dev/null

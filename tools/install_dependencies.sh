@@ -4,10 +4,12 @@
 set -euo pipefail
 
 packages=(cmake make g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev
-          nlohmann-json3-dev libcairo2-dev libfreetype-dev clang clang-format)
+          nlohmann-json3-dev libcairo2-dev libfreetype-dev libzip-dev libcurl4-openssl-dev
+          libcpp-httplib-dev clang clang-format)
 
 if [[ "$(uname)" == "Darwin" ]]; then
-  for formula in cmake pkg-config googletest google-benchmark nlohmann-json cairo freetype; do
+  for formula in cmake pkg-config googletest google-benchmark nlohmann-json cairo freetype libzip \
+                 cpp-httplib; do
     brew list "$formula" >/dev/null 2>&1 || echo "missing: brew install $formula"
   done
   exit 0

@@ -165,13 +165,11 @@ Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const 
     for (const LayoutActions::Placement& placement : placements) {
         const WindowRef& ref = placement.ref;
         if (WindowMover::isFullScreen(ref.element)) continue;
-        auto window = record(placement, screen);
-        if (!window) continue;
         if (WindowMover::setFrame(ref.pid, ref.element,
                                   placement.rect.frame(screen.visible, gap))) {
             arranged.moved.push_back(ref);
         }
-        arranged.windows.push_back(std::move(*window));
+        if (auto window = record(placement, screen)) arranged.windows.push_back(std::move(*window));
     }
     Log::info("layouts: arranged " + std::to_string(arranged.windows.size()) + " windows");
     return arranged;

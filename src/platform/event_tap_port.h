@@ -30,6 +30,11 @@ struct InputEvent {
     bool autorepeat = false;   // kCGKeyboardEventAutorepeat (field 8) is non-zero
 };
 
+// Where a tap sits in the event stream (CGEventTapLocation): where events enter the window
+// server, or where they enter the login session. The system may refuse the HID location to
+// a process that is not root.
+enum class EventTapLocation : std::uint32_t { hid = 0, session = 1 };
+
 // The system's side of one event tap (CGEventTapCreate and companions). The port delivers
 // events on the main thread to the handler, which answers whether the event passes on
 // (true) or is swallowed (false).
@@ -38,8 +43,9 @@ class EventTapPort {
     virtual ~EventTapPort() = default;
     using Handler = std::function<bool(const InputEvent&)>;
 
-    // CGEventTapCreate(kCGHIDEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault, mask).
-    virtual bool create(std::uint64_t mask, Handler handler) = 0;
+    // CGEventTapCreate(location, kCGHeadInsertEventTap, kCGEventTapOptionDefault, mask); false
+    // when the system refuses a tap at that location.
+    virtual bool create(EventTapLocation location, std::uint64_t mask, Handler handler) = 0;
     // CFMachPortCreateRunLoopSource + CFRunLoopAddSource(main run loop, common modes).
     virtual bool addToMainRunLoop() = 0;
     // CGEventTapEnable.

@@ -3,13 +3,25 @@
 #include <cstdint>
 
 #include "platform/accessibility.h"
+#include "platform/agent_application.h"
+#include "platform/archiver.h"
 #include "platform/defaults.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
+#include "platform/file_system.h"
+#include "platform/font_registrar.h"
+#include "platform/info_dictionary.h"
 #include "platform/login_item.h"
+#include "platform/modal_alert.h"
+#include "platform/notification_center.h"
+#include "platform/report_dialog.h"
+#include "platform/save_panel.h"
 #include "platform/screen_list.h"
+#include "platform/system_info.h"
 #include "platform/system_log.h"
 #include "platform/text_measurer.h"
+#include "platform/updater.h"
+#include "platform/uploader.h"
 #include "platform/window_host.h"
 #include "platform/window_server.h"
 #include "platform/workspace.h"
@@ -33,6 +45,18 @@ struct Platform {
     LoginItem& loginItem;
     WindowHost& windowHost;
     TextMeasurer& text;
+    NotificationCenter& notifications;
+    UpdateService& updates;
+    AgentApplication& application;
+    SystemInfo& systemInfo;
+    InfoDictionary& infoDictionary;
+    FileSystem& files;
+    ModalAlert& alert;
+    ReportDialog& reportDialog;
+    SavePanel& savePanel;
+    Archiver& archiver;
+    Uploader& uploader;
+    FontRegistrar& fonts;
 };
 
 // The installed platform. Calling it with none installed is a programming error.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "platform/geometry.h"
@@ -16,6 +17,7 @@ struct ScreenDescription {
     Rect visibleFrame;                       // NSScreen.visibleFrame (menu bar and Dock excluded)
     std::optional<std::uint32_t> displayID;  // deviceDescription["NSScreenNumber"]
     double backingScaleFactor = 2;
+    std::string localizedName;  // NSScreen.localizedName ("Built-in Retina Display")
 
     friend bool operator==(const ScreenDescription&, const ScreenDescription&) = default;
 };
@@ -28,6 +30,8 @@ class ScreenList {
     virtual std::vector<ScreenDescription> screens() = 0;
     // The index of NSScreen.main in screens(); nothing when there is no main screen.
     virtual std::optional<std::size_t> mainScreenIndex() = 0;
+    // NSScreen.screensHaveSeparateSpaces: whether each display has its own Spaces.
+    virtual bool screensHaveSeparateSpaces() = 0;
 };
 
 }  // namespace vistrel

@@ -42,14 +42,6 @@ struct BundleInfo {
     std::string path;                       // the bundle's folder
 };
 
-// The running operating system's version (NSOperatingSystemVersion).
-struct OperatingSystemVersion {
-    int major = 0;
-    int minor = 0;
-    int patch = 0;
-    friend bool operator==(const OperatingSystemVersion&, const OperatingSystemVersion&) = default;
-};
-
 // NSWorkspace and NSRunningApplication.
 class Workspace {
   public:
@@ -86,8 +78,8 @@ class Workspace {
     virtual Pid ownPid() = 0;
     // Bundle.main.
     virtual BundleInfo mainBundle() = 0;
-    // ProcessInfo.operatingSystemVersion; the call cannot fail.
-    virtual OperatingSystemVersion operatingSystemVersion() = 0;
+    // Bundle(path:)?.bundleIdentifier: nothing when no bundle or no identifier is there.
+    virtual std::optional<std::string> bundleIdentifier(const std::string& bundlePath) = 0;
 };
 
 }  // namespace vistrel

@@ -1,8 +1,20 @@
 #include "tracking/event_tap.h"
 
+#include <string_view>
+
+#include "diagnostics/log.h"
 #include "platform/platform.h"
 
 namespace vistrel {
+
+namespace {
+// The HID location sees events before anything else does; the session location, the next
+// best, is open to a process the system refuses the HID location to.
+constexpr std::array tapLocations = {EventTapLocation::hid, EventTapLocation::session};
+constexpr std::string_view runningAtHID = "event tap: running at the HID location";
+constexpr std::string_view runningAtSession =
+    "event tap: HID location refused, running at the session location";
+}  // namespace
 
 EventTap::~EventTap() {
     stop();
@@ -13,18 +25,34 @@ bool EventTap::start() {
     // A port the system invalidated is gone for good: drop it and make a new tap.
     if (port_ != nullptr) stop();
     EventTapPort& port = platform().eventTap;
-    // The port lives no longer than this tap (stop() runs before it goes), so the handler
-    // may refer to the tap unretained, as the system's callback does with its refcon.
-    if (!port.create(eventMask, [this](const InputEvent& event) { return handle(event); })) {
-        return false;
-    }
+    const auto location = createAtBestLocation(port);
+    if (!location) return false;
     if (!port.addToMainRunLoop()) {
         port.invalidate();
         return false;
     }
     port.enable(true);
     port_ = &port;
+    noteLocation(*location);
     return true;
+}
+
+std::optional<EventTapLocation> EventTap::createAtBestLocation(EventTapPort& port) {
+    for (EventTapLocation location : tapLocations) {
+        // The port lives no longer than this tap (stop() runs before it goes), so the handler
+        // may refer to the tap unretained, as the system's callback does with its refcon.
+        if (port.create(location, eventMask,
+                        [this](const InputEvent& event) { return handle(event); })) {
+            return location;
+        }
+    }
+    return std::nullopt;
+}
+
+void EventTap::noteLocation(EventTapLocation location) {
+    if (location_ == location) return;
+    location_ = location;
+    Log::info(location == EventTapLocation::hid ? runningAtHID : runningAtSession);
 }
 
 void EventTap::stop() {

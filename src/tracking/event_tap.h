@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <set>
 
 #include "platform/event_tap_port.h"
@@ -22,10 +23,10 @@ constexpr std::uint64_t eventMaskOf(const std::array<EventType, count>& types) {
     return mask;
 }
 
-// An active event tap at the head of the HID event stream, running while Mission Control
-// is open. It hands each pointer and key event to its delegate and swallows those the
-// delegate consumes together with their releases, so that Mission Control never sees a
-// release whose press it did not see.
+// An active event tap at the head of the HID event stream (or of the session's, when the
+// system refuses the HID location to this process), running while Mission Control is open. It hands
+// each pointer and key event to its delegate and swallows those the delegate consumes together with
+// their releases, so that Mission Control never sees a release whose press it did not see.
 class EventTap {
   public:
     // The event types that reach the tap, in mask order.
@@ -54,6 +55,10 @@ class EventTap {
     bool handle(const InputEvent& event);
 
   private:
+    // Creates the tap at the first location the system allows; nothing when none does.
+    std::optional<EventTapLocation> createAtBestLocation(EventTapPort& port);
+    // Logs where the tap runs, the first time and whenever that changes.
+    void noteLocation(EventTapLocation location);
     bool handleMouseDown(EventTapDelegate* target, const InputEvent& event);
     bool handleMouseUp(EventTapDelegate* target, const InputEvent& event);
     bool handleKeyDown(EventTapDelegate* target, const InputEvent& event);
@@ -62,6 +67,7 @@ class EventTap {
     EventTapPort* port_ = nullptr;
     std::set<std::int64_t> swallowedKeys_;
     bool swallowMouseUp_ = false;
+    std::optional<EventTapLocation> location_;
 };
 
 inline constexpr std::uint64_t EventTap::eventMask = eventMaskOf(EventTap::tappedTypes);

@@ -136,7 +136,7 @@ std::optional<Request> requested(const std::vector<std::string>& arguments) {
 }
 
 json snapshot(bool withTitles) {
-    const OperatingSystemVersion version = platform().workspace.operatingSystemVersion();
+    const OperatingSystemVersion version = platform().systemInfo.operatingSystemVersion();
     const bool windowManager =
         MissionControlHosts::forVersion(version) == MissionControlHost::windowManager;
     return {

@@ -11,7 +11,7 @@ MissionControlHost forVersion(const OperatingSystemVersion& version) {
 }
 
 MissionControlHost running() {
-    return forVersion(platform().workspace.operatingSystemVersion());
+    return forVersion(platform().systemInfo.operatingSystemVersion());
 }
 
 std::string_view startLine(MissionControlHost host) {

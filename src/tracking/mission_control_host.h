@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/workspace.h"
+#include "platform/system_info.h"
 
 namespace vistrel {
 

@@ -191,15 +191,21 @@ TEST_F(LayoutActionsArrangeTest, NothingArrangedCompletesWithNone) {
     EXPECT_EQ(logged("layouts: arranged 0 windows"), 1u);
 }
 
-TEST_F(LayoutActionsArrangeTest, AWindowWhoseApplicationQuitIsNotRecorded) {
-    const WindowRef notes = ref("Notes");
-    quit("com.apple.Notes");
+TEST_F(LayoutActionsArrangeTest, AWindowOfAnAppWithoutBundleIdentifierIsPlacedButNotRecorded) {
+    SimApplication tool;
+    tool.name = "build-watcher";
+    SimWindow console;
+    console.title = "watching";
+    console.frame = {300, 200, 500, 400};
+    const SimWindowId id = desktop.addWindow(desktop.addApplication(tool), console);
 
-    const auto layout = arrange({{notes, leftHalf}, {ref("Start Page"), rightHalf}});
+    const auto layout = arrange({{ref("watching"), leftHalf}, {ref("Start Page"), rightHalf}});
 
+    EXPECT_EQ(desktop.window(id)->frame, (Rect{0, 25, 720, 805}));
     ASSERT_TRUE(layout.has_value());
     ASSERT_EQ(layout->windows.size(), 1u);
     EXPECT_EQ(layout->windows.front().app, "Safari");
+    EXPECT_EQ(logged("layouts: arranged 1 windows"), 1u);
 }
 
 TEST_F(LayoutActionsArrangeTest, ArrangingLeavesMissionControlBeforeItCompletes) {

@@ -18,7 +18,7 @@ using namespace testing;
 
 class LeaveMissionControlOnWindowManagerTest : public testing::LayoutActionsTest {
   protected:
-    LeaveMissionControlOnWindowManagerTest() { desktop.operatingSystem = {27, 0, 0}; }
+    LeaveMissionControlOnWindowManagerTest() { desktop.systemInfo().version = {27, 0, 0}; }
 
     std::vector<WindowRef> raising() { return {ref("Notes"), ref("Start Page")}; }
     const Keys& posted() { return desktop.windowServer().postedKeys; }

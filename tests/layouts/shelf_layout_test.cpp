@@ -105,12 +105,15 @@ TEST(ShelfLayout, NoCellOutsideTheFrameEvenWhereAGrownCellWouldReach) {
     ShelfLayout layout = ShelfLayout::make(3, templateCount, laptop);
     const Rect first = layout.cells[0].rect;
     const Point leftOfFirst{first.minX() - 3, first.midY()};
+    const Point belowFirst{first.midX(), first.maxY() + 3};
     EXPECT_EQ(layout.cell(leftOfFirst)->item, Item::saved(0));
-    // A frame that ends at the first cell's edge leaves the grown part of the cell outside.
+    EXPECT_EQ(layout.cell(belowFirst)->item, Item::saved(0));
+    // A frame that ends at the first cell's left and bottom edges leaves the grown parts of
+    // the cell outside.
     layout.frame = {first.minX(), layout.frame.y, layout.frame.maxX() - first.minX(),
-                    layout.frame.height};
+                    first.maxY() - layout.frame.y};
     EXPECT_EQ(layout.cell(leftOfFirst), std::nullopt);
-    EXPECT_EQ(layout.cell({layout.frame.midX(), layout.frame.maxY() + 1}), std::nullopt);
+    EXPECT_EQ(layout.cell(belowFirst), std::nullopt);
 }
 
 TEST(ShelfLayout, SlotUnderThePointInATemplatesMiniature) {

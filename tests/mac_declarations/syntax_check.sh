@@ -14,7 +14,6 @@ source_dir=$3
 mode=$4
 declarations="$source_dir/tests/mac_declarations"
 layer="$source_dir/src/platform/mac"
-deployment_target=13.0
 
 case "$arch" in
     arm64) bool_is_bool=1 ;;
@@ -22,24 +21,9 @@ case "$arch" in
     *) echo "unknown architecture: $arch" >&2; exit 2 ;;
 esac
 
-# The C and C++ standard headers come from the host, exactly where its own clang finds them.
-host_includes=()
-while read -r dir; do
-    host_includes+=(-isystem "$dir")
-done < <("$clang" -x c++ -std=c++20 -E -v - </dev/null 2>&1 |
-         sed -n '/^#include <...> search starts here:/,/^End of search list./p' |
-         sed -e '1d' -e '$d' -e 's/^ *//')
-
-flags=(-target "$arch-apple-macos$deployment_target" -std=c++20 -fsyntax-only -fblocks
-       -Wall -Wextra -Werror -fno-caret-diagnostics
-       -isystem "$declarations" -I "$source_dir/src")
-if [[ "$(uname)" == "Linux" ]]; then
-    # A Mac target does not set the macros the host C library expects, and Apple's compiler
-    # defines nullability names the C library uses for its own attribute.
-    flags+=(-nostdinc++ -D_GNU_SOURCE -U__nonnull -U__nullable -U__null_unspecified
-            -isystem "$declarations/linux_host")
-fi
-flags+=("${host_includes[@]}")
+source "$declarations/mac_target_flags.sh"
+flags=()
+mac_target_flags "$clang" "$arch" "$source_dir"
 
 objc_flags=(-x objective-c++ -fobjc-arc)
 

@@ -33,7 +33,7 @@ TEST_F(SimCaptureSceneTest, WindowsBecomeApplicationWindowsWithTheirThumbnailsTi
         ]})",
                                   error))
         << error;
-    EXPECT_EQ(desktop.operatingSystem, (OperatingSystemVersion{27, 1, 0}));
+    EXPECT_EQ(desktop.systemInfo().version, (OperatingSystemVersion{27, 1, 0}));
     ASSERT_EQ(desktop.windows().size(), 1u);
     const SimWindow& window = desktop.windows().front();
     EXPECT_EQ(window.title, "Groceries");

@@ -237,7 +237,7 @@ TEST_F(SimDockTest, SwallowedClickLeavesMissionControlOpen) {
     populateDefaultScene(desktop);
     desktop.dock().open();
     SimEventTapPort& port = desktop.eventTap();
-    port.create(~std::uint64_t{0}, [](const InputEvent&) { return false; });
+    port.create(EventTapLocation::hid, ~std::uint64_t{0}, [](const InputEvent&) { return false; });
     port.addToMainRunLoop();
     port.enable(true);
     const Point point = desktop.dock().thumbnails().front().frame.mid();

@@ -13,7 +13,7 @@ namespace {
 class SimDockWindowManagerTest : public testing::SimTest {
   protected:
     SimDockWindowManagerTest() {
-        desktop.operatingSystem = {27, 0, 0};
+        desktop.systemInfo().version = {27, 0, 0};
         populateDefaultScene(desktop);
     }
 

@@ -17,7 +17,7 @@ TEST(SimEventTapPort, WithoutATapEveryEventPasses) {
 TEST(SimEventTapPort, TapSeesOnlyTheTypesOfItsMaskAndDecidesTheirFate) {
     SimEventTapPort port;
     int seen = 0;
-    port.create(mouseDownOnly, [&](const InputEvent&) {
+    port.create(EventTapLocation::hid, mouseDownOnly, [&](const InputEvent&) {
         ++seen;
         return false;
     });
@@ -33,7 +33,7 @@ TEST(SimEventTapPort, TapSeesOnlyTheTypesOfItsMaskAndDecidesTheirFate) {
 TEST(SimEventTapPort, DisabledTapStillReceivesTheDisableNotices) {
     SimEventTapPort port;
     int notices = 0;
-    port.create(mouseDownOnly, [&](const InputEvent&) {
+    port.create(EventTapLocation::hid, mouseDownOnly, [&](const InputEvent&) {
         ++notices;
         return true;
     });

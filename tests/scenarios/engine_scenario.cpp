@@ -4,9 +4,11 @@
 
 namespace vistrel::testing {
 
-EngineScenario::EngineScenario() {
+EngineScenario::EngineScenario() : EngineScenario(nullptr) {}
+
+EngineScenario::EngineScenario(std::unique_ptr<EngineLayouts> layouts) {
     populateDefaultScene(desktop);
-    engine = Engine::make();
+    engine = layouts ? Engine::make(std::move(layouts)) : Engine::make();
     engine->start();
     desktop.executor().advance(MissionControlDetector::startDelay);
 }

@@ -18,6 +18,8 @@ namespace vistrel::testing {
 class EngineScenario : public ::testing::Test {
   protected:
     EngineScenario();
+    // The engine with a Layouts feature of the test's own instead of the real controller.
+    explicit EngineScenario(std::unique_ptr<EngineLayouts> layouts);
 
     // Opens Mission Control and lets the detector notice it and read the thumbnails.
     void openMissionControl();

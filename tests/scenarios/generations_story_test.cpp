@@ -24,7 +24,7 @@ constexpr int windowManagerGeneration = 27;
 
 class GenerationStoryTest : public LayoutsScenario, public ::testing::WithParamInterface<int> {
   protected:
-    GenerationStoryTest() { desktop.operatingSystem.major = GetParam(); }
+    GenerationStoryTest() { desktop.systemInfo().version.major = GetParam(); }
 
     SimWindow& windowOf(const std::string& title) { return *desktop.window(windowTitled(title)); }
 };

@@ -10,7 +10,7 @@ namespace {
 
 class StayOpenDockWindowTest : public EngineScenario {
   protected:
-    StayOpenDockWindowTest() { desktop.operatingSystem = {27, 0, 0}; }
+    StayOpenDockWindowTest() { desktop.systemInfo().version = {27, 0, 0}; }
 
     bool fullScreenDockWindowListed() {
         const auto list = desktop.windowServer().windowList(WindowListOption::onScreenOnly);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "platform/sim/sim_event_tap_port.h"
@@ -14,6 +15,9 @@ namespace {
 
 constexpr Point somewhere{640, 360};
 constexpr std::uint64_t capsLock = 0x10000;
+constexpr std::string_view runningAtHID = "event tap: running at the HID location";
+constexpr std::string_view runningAtSession =
+    "event tap: HID location refused, running at the session location";
 
 // Records what the tap hands over and consumes what it is told to.
 class RecordingDelegate : public EventTapDelegate {
@@ -49,6 +53,7 @@ class EventTapTest : public testing::SimTest {
     EventTapTest() { tap.delegate = delegate; }
 
     bool deliver(const InputEvent& event) { return desktop.eventTap().deliver(event); }
+    std::size_t logged(std::string_view message) { return desktop.systemLog().count(message); }
     SimEventTapPort& port() { return desktop.eventTap(); }
 
     std::shared_ptr<RecordingDelegate> delegate = std::make_shared<RecordingDelegate>();
@@ -68,6 +73,50 @@ TEST_F(EventTapTest, StartTwiceReturnsTrueBothTimesAndCreatesOneTap) {
     EXPECT_EQ(port().mask(), 0x1C66u);
     EXPECT_TRUE(port().enabled());
     EXPECT_TRUE(tap.isRunning());
+}
+
+TEST_F(EventTapTest, RunsAtTheHIDLocationWhenTheSystemAllowsIt) {
+    EXPECT_TRUE(tap.start());
+    EXPECT_EQ(port().location(), EventTapLocation::hid);
+    EXPECT_EQ(port().creations(), 1);
+    EXPECT_EQ(logged(runningAtHID), 1u);
+}
+
+TEST_F(EventTapTest, FallsBackToTheSessionLocationWhenTheHIDLocationIsRefused) {
+    port().refusesHIDLocation = true;
+    EXPECT_TRUE(tap.start());
+    EXPECT_TRUE(tap.isRunning());
+    EXPECT_EQ(port().location(), EventTapLocation::session);
+    EXPECT_EQ(logged(runningAtSession), 1u);
+    EXPECT_EQ(logged(runningAtHID), 0u);
+}
+
+TEST_F(EventTapTest, TheTapAtTheSessionLocationStillSwallowsConsumedEvents) {
+    port().refusesHIDLocation = true;
+    delegate->consumeKeyDown = true;
+    ASSERT_TRUE(tap.start());
+    EXPECT_FALSE(deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command)));
+    EXPECT_EQ(delegate->keys.size(), 1u);
+}
+
+TEST_F(EventTapTest, LogsTheLocationOnlyWhenItChanges) {
+    ASSERT_TRUE(tap.start());
+    tap.stop();
+    ASSERT_TRUE(tap.start());
+    EXPECT_EQ(logged(runningAtHID), 1u);
+    tap.stop();
+    port().refusesHIDLocation = true;
+    ASSERT_TRUE(tap.start());
+    tap.stop();
+    ASSERT_TRUE(tap.start());
+    EXPECT_EQ(logged(runningAtSession), 1u);
+}
+
+TEST_F(EventTapTest, FailsWhenEveryLocationIsRefused) {
+    port().creationFails = true;
+    EXPECT_FALSE(tap.start());
+    EXPECT_FALSE(port().exists());
+    EXPECT_EQ(logged(runningAtHID) + logged(runningAtSession), 0u);
 }
 
 TEST_F(EventTapTest, FailedCreationReturnsFalseAndChangesNothing) {

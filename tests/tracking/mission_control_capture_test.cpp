@@ -47,7 +47,7 @@ TEST(MissionControlCaptureArguments, NoFlagNoCaptureAndAMissingFileIsAnEmptyPath
 class MissionControlCaptureTest : public testing::SimTest {
   protected:
     MissionControlCaptureTest() {
-        desktop.operatingSystem = {27, 0, 1};
+        desktop.systemInfo().version = {27, 0, 1};
         populateDefaultScene(desktop);
         request.path = (folder.path() / "mc.json").string();
     }

@@ -18,7 +18,7 @@ constexpr double timeResolution = 1e-6;
 class DetectorOnWindowManagerTest : public testing::SimTest {
   protected:
     DetectorOnWindowManagerTest() {
-        desktop.operatingSystem = {27, 0, 0};
+        desktop.systemInfo().version = {27, 0, 0};
         populateDefaultScene(desktop);
     }
 

@@ -20,14 +20,14 @@ TEST(MissionControlHost, FromMacOS27WindowManagerHoldsIt) {
 class MissionControlHostLineTest : public testing::SimTest {};
 
 TEST_F(MissionControlHostLineTest, StartLineNamesTheDockUpToMacOS26) {
-    desktop.operatingSystem = {26, 1, 0};
+    desktop.systemInfo().version = {26, 1, 0};
     MissionControlHosts::logWhereRead();
     EXPECT_EQ(desktop.systemLog().count("mission control: reading the Dock"), 1u);
     EXPECT_EQ(desktop.systemLog().count("mission control: reading WindowManager"), 0u);
 }
 
 TEST_F(MissionControlHostLineTest, StartLineNamesWindowManagerFromMacOS27) {
-    desktop.operatingSystem = {27, 0, 0};
+    desktop.systemInfo().version = {27, 0, 0};
     MissionControlHosts::logWhereRead();
     EXPECT_EQ(desktop.systemLog().count("mission control: reading WindowManager"), 1u);
     EXPECT_EQ(desktop.systemLog().count("mission control: reading the Dock"), 0u);

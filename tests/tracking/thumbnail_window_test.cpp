@@ -13,7 +13,7 @@ namespace {
 class ThumbnailWindowTest : public testing::SimTest {
   protected:
     ThumbnailWindowTest() {
-        desktop.operatingSystem = {27, 0, 0};
+        desktop.systemInfo().version = {27, 0, 0};
         populateDefaultScene(desktop);
         desktop.dock().open();
     }
@@ -114,7 +114,7 @@ TEST_F(ThumbnailWindowTest, WindowWhoseFrameNoLongerMatchesItsBoundsIsNotGuessed
 
 TEST_F(ThumbnailWindowTest, UpToMacOS26TheHitElementItselfIsAsked) {
     desktop.dock().close();
-    desktop.operatingSystem = {26, 0, 0};
+    desktop.systemInfo().version = {26, 0, 0};
     desktop.dock().open();
     const SimThumbnail shown = desktop.dock().thumbnails().front();
     desktop.accessibility().resetCounts();

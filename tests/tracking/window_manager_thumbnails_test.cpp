@@ -14,7 +14,7 @@ namespace {
 class WindowManagerThumbnailsTest : public testing::SimTest {
   protected:
     WindowManagerThumbnailsTest() {
-        desktop.operatingSystem = {27, 0, 0};
+        desktop.systemInfo().version = {27, 0, 0};
         populateDefaultScene(desktop);
     }
 
@@ -105,9 +105,9 @@ TEST_F(WindowManagerThumbnailsTest, TheDocksOwnMissionControlGroupHoldsNothing) 
     desktop.dock().open();
     ThumbnailReader dockReader;
     // Read the Dock's way, macOS 27's tree has no thumbnails under the Dock.
-    desktop.operatingSystem = {26, 0, 0};
+    desktop.systemInfo().version = {26, 0, 0};
     EXPECT_TRUE(dockReader.frames().empty());
-    desktop.operatingSystem = {27, 0, 0};
+    desktop.systemInfo().version = {27, 0, 0};
     EXPECT_EQ(dockReader.frames(), simulatedFrames());
     EXPECT_EQ(dockReader.dockPid(), desktop.dock().windowManagerPid());
 }

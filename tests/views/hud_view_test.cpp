@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "platform/display_list.h"
+#include "platform/sim/sim_window_host.h"
 #include "support/sim_test.h"
 #include "views/layouts_ui.h"
 
@@ -71,8 +72,15 @@ TEST_F(HUDViewTest, CapsuleIsDarkGreyWithAFaintWhiteBorderHalfAPointInside) {
     EXPECT_EQ(strokes[0].style.width, 1);
 }
 
-TEST_F(HUDViewTest, DrawingIsInFlippedCoordinates) {
-    EXPECT_TRUE(drawn(std::nullopt)->flipped());
+TEST_F(HUDViewTest, HandsItsWindowAFlippedDrawing) {
+    SimWindowHost host;
+    auto window = host.makeWindow(WindowDeferral::deferred);
+    window->setFrame({100, 100, capsule.width, capsule.height}, false);
+    HUDView view;
+    view.configure(message, std::nullopt);
+    view.attach(window.get());
+    ASSERT_TRUE(host.windows().front()->content());
+    EXPECT_TRUE(host.windows().front()->content()->flipped());
 }
 
 TEST_F(HUDViewTest, TextStartsFifteenPointsInWithoutMiniature) {

@@ -173,11 +173,14 @@ TEST(OverlayView, DrawsEveryItemInOrderWithOnlyTheHoveredOneDarkened) {
     EXPECT_EQ(fills[2].path, Path::oval({48, 0, 20, 20}));
 }
 
-TEST(OverlayView, DrawsUnflippedSoTheArrowsRiseToTheUpperRight) {
+TEST(OverlayView, HandsItsWindowAnUnflippedDrawingSoTheArrowsRiseToTheUpperRight) {
+    SimWindowHost host;
+    auto window = host.makeWindow(WindowDeferral::deferred);
     OverlayView view;
-    RecordingCanvas canvas;
-    view.draw(canvas);
-    EXPECT_FALSE(canvas.finish()->flipped());
+    view.attach(window.get());
+    view.configure(strip(Theme::classic));
+    ASSERT_TRUE(host.windows().front()->content());
+    EXPECT_FALSE(host.windows().front()->content()->flipped());
 }
 
 TEST(OverlayView, ConfigureHandsTheAttachedWindowAFreshDrawing) {

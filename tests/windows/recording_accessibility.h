@@ -20,10 +20,31 @@ class RecordingAccessibility : public Accessibility {
     };
 
     explicit RecordingAccessibility(Platform& inner)
-        : inner_(inner), recording_{*this,           inner.windowServer, inner.workspace,
-                                    inner.screens,   inner.defaults,     inner.eventTap,
-                                    inner.executor,  inner.clock,        inner.systemLog,
-                                    inner.loginItem, inner.windowHost,   inner.text} {
+        : inner_(inner),
+          recording_{.accessibility = *this,
+                     .windowServer = inner.windowServer,
+                     .workspace = inner.workspace,
+                     .screens = inner.screens,
+                     .defaults = inner.defaults,
+                     .eventTap = inner.eventTap,
+                     .executor = inner.executor,
+                     .clock = inner.clock,
+                     .systemLog = inner.systemLog,
+                     .loginItem = inner.loginItem,
+                     .windowHost = inner.windowHost,
+                     .text = inner.text,
+                     .notifications = inner.notifications,
+                     .updates = inner.updates,
+                     .application = inner.application,
+                     .systemInfo = inner.systemInfo,
+                     .infoDictionary = inner.infoDictionary,
+                     .files = inner.files,
+                     .alert = inner.alert,
+                     .reportDialog = inner.reportDialog,
+                     .savePanel = inner.savePanel,
+                     .archiver = inner.archiver,
+                     .uploader = inner.uploader,
+                     .fonts = inner.fonts} {
         installPlatform(&recording_);
     }
     ~RecordingAccessibility() override { installPlatform(&inner_); }

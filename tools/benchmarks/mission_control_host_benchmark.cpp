@@ -19,7 +19,7 @@ constexpr int thumbnailCount = 60;
 // Mission Control open over 60 windows on a system of the given major version.
 struct SixtyThumbnails {
     explicit SixtyThumbnails(int major) {
-        desktop.operatingSystem = {major, 0, 0};
+        desktop.systemInfo().version = {major, 0, 0};
         desktop.dock().launch();
         SimApplication editor;
         editor.bundleIdentifier = "com.example.editor";

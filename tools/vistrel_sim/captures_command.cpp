@@ -43,7 +43,7 @@ int showCapture(const fs::path& file, std::ostream& out) {
         out << "  not loaded: " << (in ? error : "cannot read the file") << "\n\n";
         return 1;
     }
-    const OperatingSystemVersion& system = desktop.operatingSystem;
+    const OperatingSystemVersion& system = desktop.systemInfo().version;
     out << "  macOS " << system.major << "." << system.minor << "." << system.patch << "; "
         << MissionControlHosts::startLine(MissionControlHosts::running()) << "\n";
     out << "  detector: mission control "

@@ -26,7 +26,7 @@ void pollAndPrint(SimDesktop& desktop, double started, const bool& verdict, std:
 int showSession(std::ostream& out, int major) {
     SimDesktop desktop;
     ScopedPlatform installed(desktop);
-    desktop.operatingSystem.major = major;
+    desktop.systemInfo().version.major = major;
     populateDefaultScene(desktop);
     out << "== mission control on the default scene, macOS " << major << " ==\n";
 

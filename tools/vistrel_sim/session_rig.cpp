@@ -42,7 +42,19 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .systemLog = log,
                 .loginItem = desktop.platform().loginItem,
                 .windowHost = desktop.platform().windowHost,
-                .text = desktop.platform().text} {
+                .text = desktop.platform().text,
+                .notifications = desktop.platform().notifications,
+                .updates = desktop.platform().updates,
+                .application = desktop.platform().application,
+                .systemInfo = desktop.platform().systemInfo,
+                .infoDictionary = desktop.platform().infoDictionary,
+                .files = desktop.platform().files,
+                .alert = desktop.platform().alert,
+                .reportDialog = desktop.platform().reportDialog,
+                .savePanel = desktop.platform().savePanel,
+                .archiver = desktop.platform().archiver,
+                .uploader = desktop.platform().uploader,
+                .fonts = desktop.platform().fonts} {
     installPlatform(&platform_);
 }
 

@@ -2,89 +2,24 @@
 
 #import <Foundation/Foundation.h>
 
+#include "platform/mac/mac_property_list.h"
+
 namespace vistrel {
 
 namespace {
-
-DefaultsValue toValue(id object);
-
-DefaultsValue numberValue(NSNumber* number) {
-    // NSNumber keeps Booleans apart from integers only through their Core Foundation type.
-    if (CFGetTypeID((__bridge CFTypeRef)number) == CFBooleanGetTypeID()) {
-        return DefaultsValue(static_cast<bool>(number.boolValue));
-    }
-    if (CFNumberIsFloatType((__bridge CFNumberRef)number)) return DefaultsValue(number.doubleValue);
-    return DefaultsValue(static_cast<std::int64_t>(number.longLongValue));
-}
-
-DefaultsValue toValue(id object) {
-    if (object == nil) return {};
-    if ([object isKindOfClass:[NSNumber class]]) return numberValue(object);
-    if ([object isKindOfClass:[NSString class]]) {
-        return DefaultsValue(std::string([(NSString*)object UTF8String]));
-    }
-    if ([object isKindOfClass:[NSData class]]) {
-        NSData* data = object;
-        const auto* bytes = static_cast<const std::uint8_t*>(data.bytes);
-        return DefaultsValue(DefaultsValue::Data(bytes, bytes + data.length));
-    }
-    if ([object isKindOfClass:[NSArray class]]) {
-        DefaultsValue::Array array;
-        for (id element in (NSArray*)object)
-            array.push_back(toValue(element));
-        return DefaultsValue(std::move(array));
-    }
-    if ([object isKindOfClass:[NSDictionary class]]) {
-        DefaultsValue::Dictionary dictionary;
-        NSDictionary* source = object;
-        for (id key in source) {
-            if (![key isKindOfClass:[NSString class]]) continue;
-            dictionary[[(NSString*)key UTF8String]] = toValue(source[key]);
-        }
-        return DefaultsValue(std::move(dictionary));
-    }
-    return {};
-}
-
-id toObject(const DefaultsValue& value) {
-    if (auto b = value.boolean()) return @(*b);
-    if (auto i = value.integer()) return @(*i);
-    if (auto d = value.number()) return @(*d);
-    if (auto s = value.string()) return [NSString stringWithUTF8String:s->c_str()];
-    if (auto data = value.data()) return [NSData dataWithBytes:data->data() length:data->size()];
-    if (auto array = value.array()) {
-        NSMutableArray* result = [NSMutableArray arrayWithCapacity:array->size()];
-        for (const auto& element : *array) {
-            if (id object = toObject(element)) [result addObject:object];
-        }
-        return result;
-    }
-    if (auto dictionary = value.dictionary()) {
-        NSMutableDictionary* result = [NSMutableDictionary dictionary];
-        for (const auto& [key, element] : *dictionary) {
-            if (id object = toObject(element)) {
-                result[[NSString stringWithUTF8String:key.c_str()]] = object;
-            }
-        }
-        return result;
-    }
-    return nil;
-}
-
-NSString* ns(const std::string& text) {
-    return [NSString stringWithUTF8String:text.c_str()];
-}
 
 class MacDefaultsStore : public DefaultsStore {
   public:
     explicit MacDefaultsStore(NSUserDefaults* defaults) : defaults_(defaults) {}
     DefaultsValue object(const std::string& key) override {
-        return toValue([defaults_ objectForKey:ns(key)]);
+        return MacPropertyList::value([defaults_ objectForKey:MacPropertyList::string(key)]);
     }
     void set(const std::string& key, const DefaultsValue& value) override {
-        [defaults_ setObject:toObject(value) forKey:ns(key)];
+        [defaults_ setObject:MacPropertyList::object(value) forKey:MacPropertyList::string(key)];
     }
-    void remove(const std::string& key) override { [defaults_ removeObjectForKey:ns(key)]; }
+    void remove(const std::string& key) override {
+        [defaults_ removeObjectForKey:MacPropertyList::string(key)];
+    }
 
   private:
     NSUserDefaults* defaults_;
@@ -97,7 +32,8 @@ std::shared_ptr<DefaultsStore> MacDefaults::standard() {
 }
 
 std::shared_ptr<DefaultsStore> MacDefaults::suite(const std::string& name) {
-    NSUserDefaults* suite = [[NSUserDefaults alloc] initWithSuiteName:ns(name)];
+    NSUserDefaults* suite =
+        [[NSUserDefaults alloc] initWithSuiteName:MacPropertyList::string(name)];
     if (suite == nil) return nullptr;
     return std::make_shared<MacDefaultsStore>(suite);
 }

@@ -9,11 +9,21 @@ constexpr CFIndex sourceOrder = 0;
 bool isDisableNotice(CGEventType type) {
     return type == kCGEventTapDisabledByTimeout || type == kCGEventTapDisabledByUserInput;
 }
+
+CGEventTapLocation cgLocation(EventTapLocation location) {
+    switch (location) {
+        case EventTapLocation::hid:
+            return kCGHIDEventTap;
+        case EventTapLocation::session:
+            return kCGSessionEventTap;
+    }
+    return kCGHIDEventTap;
+}
 }  // namespace
 
-bool MacEventTapPort::create(std::uint64_t mask, Handler handler) {
+bool MacEventTapPort::create(EventTapLocation location, std::uint64_t mask, Handler handler) {
     invalidate();
-    port_ = CGEventTapCreate(kCGHIDEventTap, kCGHeadInsertEventTap, kCGEventTapOptionDefault,
+    port_ = CGEventTapCreate(cgLocation(location), kCGHeadInsertEventTap, kCGEventTapOptionDefault,
                              static_cast<CGEventMask>(mask), &MacEventTapPort::callback, this);
     if (port_ == nullptr) return false;
     handler_ = std::move(handler);

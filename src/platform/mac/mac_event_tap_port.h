@@ -14,7 +14,7 @@ class MacEventTapPort : public EventTapPort {
     MacEventTapPort(const MacEventTapPort&) = delete;
     MacEventTapPort& operator=(const MacEventTapPort&) = delete;
 
-    bool create(std::uint64_t mask, Handler handler) override;
+    bool create(EventTapLocation location, std::uint64_t mask, Handler handler) override;
     bool addToMainRunLoop() override;
     void enable(bool on) override;
     bool isValid() override;

@@ -25,7 +25,7 @@ class MacWorkspace : public Workspace {
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
-    OperatingSystemVersion operatingSystemVersion() override;
+    std::optional<std::string> bundleIdentifier(const std::string& bundlePath) override;
 };
 
 // NSScreen.
@@ -33,6 +33,7 @@ class MacScreenList : public ScreenList {
   public:
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
+    bool screensHaveSeparateSpaces() override;
 };
 
 }  // namespace vistrel

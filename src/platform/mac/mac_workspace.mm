@@ -3,6 +3,8 @@
 #import <AppKit/AppKit.h>
 #include <dispatch/dispatch.h>
 
+#include "platform/alpha.h"
+
 namespace vistrel {
 
 namespace {
@@ -37,6 +39,9 @@ RunningApplication describe(NSRunningApplication* app) {
 NSRunningApplication* running(Pid pid) {
     return [NSRunningApplication runningApplicationWithProcessIdentifier:pid];
 }
+
+// NSBitmapFormat's default: alpha last, premultiplied.
+constexpr NSBitmapFormat premultipliedAlphaLast = 0;
 
 Rect rect(NSRect r) {
     return {r.origin.x, r.origin.y, r.size.width, r.size.height};
@@ -127,8 +132,9 @@ bool MacWorkspace::launchApplication(const std::string& url, const OpenConfigura
     return dispatch_semaphore_wait(done, dispatch_time(DISPATCH_TIME_NOW, wait)) == 0 && launched;
 }
 
-// The icon drawn into a bitmap of our own layout: 8-bit RGBA, not premultiplied, rows from
-// the top, which is what the canvas takes.
+// The icon drawn into a bitmap of our own layout: 8-bit RGBA with premultiplied alpha (the
+// only layout with alpha Core Graphics draws into), rows from the top; then converted to
+// straight alpha, which is what the canvas takes.
 std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bundleIdentifier,
                                                            int pixels) {
     const auto location = applicationURL(bundleIdentifier);
@@ -143,11 +149,12 @@ std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bu
                                                   hasAlpha:YES
                                                   isPlanar:NO
                                             colorSpaceName:NSDeviceRGBColorSpace
-                                              bitmapFormat:NSBitmapFormatAlphaNonpremultiplied
+                                              bitmapFormat:premultipliedAlphaLast
                                                bytesPerRow:pixels * 4
                                               bitsPerPixel:32];
-    if (bitmap == nil) return nullptr;
+    if (bitmap == nil || bitmap.bitmapData == nullptr) return nullptr;
     NSGraphicsContext* context = [NSGraphicsContext graphicsContextWithBitmapImageRep:bitmap];
+    if (context == nil) return nullptr;
     [NSGraphicsContext saveGraphicsState];
     NSGraphicsContext.currentContext = context;
     [icon drawInRect:NSMakeRect(0, 0, pixels, pixels)];
@@ -157,6 +164,7 @@ std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bu
     image->height = pixels;
     const unsigned char* data = bitmap.bitmapData;
     image->rgba.assign(data, data + static_cast<std::size_t>(pixels) * pixels * 4);
+    unpremultiplyPixels(image->rgba);
     return image;
 }
 
@@ -176,10 +184,8 @@ BundleInfo MacWorkspace::mainBundle() {
             text(info[@"CFBundleVersion"]).value_or(""), text(bundle.bundlePath).value_or("")};
 }
 
-OperatingSystemVersion MacWorkspace::operatingSystemVersion() {
-    const NSOperatingSystemVersion version = NSProcessInfo.processInfo.operatingSystemVersion;
-    return {static_cast<int>(version.majorVersion), static_cast<int>(version.minorVersion),
-            static_cast<int>(version.patchVersion)};
+std::optional<std::string> MacWorkspace::bundleIdentifier(const std::string& bundlePath) {
+    return text([NSBundle bundleWithPath:ns(bundlePath)].bundleIdentifier);
 }
 
 std::vector<ScreenDescription> MacScreenList::screens() {
@@ -188,8 +194,8 @@ std::vector<ScreenDescription> MacScreenList::screens() {
         NSNumber* number = screen.deviceDescription[@"NSScreenNumber"];
         std::optional<std::uint32_t> displayID;
         if ([number isKindOfClass:[NSNumber class]]) displayID = number.unsignedIntValue;
-        result.push_back(
-            {rect(screen.frame), rect(screen.visibleFrame), displayID, screen.backingScaleFactor});
+        result.push_back({rect(screen.frame), rect(screen.visibleFrame), displayID,
+                          screen.backingScaleFactor, text(screen.localizedName).value_or("")});
     }
     return result;
 }
@@ -200,6 +206,10 @@ std::optional<std::size_t> MacScreenList::mainScreenIndex() {
     const NSUInteger index = [NSScreen.screens indexOfObject:main];
     if (index == NSNotFound) return std::nullopt;
     return index;
+}
+
+bool MacScreenList::screensHaveSeparateSpaces() {
+    return NSScreen.screensHaveSeparateSpaces;
 }
 
 }  // namespace vistrel

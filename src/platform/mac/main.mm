@@ -9,6 +9,7 @@
 #include "platform/mac/mac_platform.h"
 #include "tracking/mission_control_capture.h"
 #include "tracking/mission_control_host.h"
+#include "ui/kit/dfkit_fonts.h"
 
 namespace {
 
@@ -34,6 +35,7 @@ int main(int argc, const char* argv[]) {
         const std::vector<std::string> arguments(argv, argv + argc);
         if (auto request = vistrel::MissionControlCapture::requested(arguments)) capture(*request);
         vistrel::MissionControlHosts::logWhereRead();
+        vistrel::DFKitFonts::registerFonts();
         NSApplication* application = NSApplication.sharedApplication;
         application.activationPolicy = NSApplicationActivationPolicyAccessory;
         return NSApplicationMain(argc, argv);

@@ -38,12 +38,13 @@ class CairoDesktopPainter {
                    bool highlighted);
     // The arrow pointer with its tip at the point.
     void pointer(Point tip);
+    // The soft shadow a window casts, for a window of the given corner radius.
+    void windowShadow(Rect frame, double radius);
 
     // A colour for an application, stable for its bundle identifier.
     static Color accentFor(const std::string& bundleIdentifier);
 
   private:
-    void windowShadow(Rect frame, double radius);
     void centeredText(const TextRun& run, double midX, double baseline);
 
     cairo_t* cr_;

@@ -5,12 +5,13 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/alpha.h"
+
 namespace vistrel {
 
 namespace {
 
 constexpr int bytesPerPixel = 4;
-constexpr double channelMax = 255;
 // Bit positions of the channels in a native-endian ARGB32 word.
 constexpr int alphaShift = 24;
 constexpr int redShift = 16;
@@ -25,15 +26,6 @@ std::uint8_t* pixelAddress(cairo_surface_t* surface, int x, int y) {
     return cairo_image_surface_get_data(surface) +
            static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(surface) +
            static_cast<std::ptrdiff_t>(x) * bytesPerPixel;
-}
-
-std::uint8_t unpremultiplied(std::uint8_t channel, std::uint8_t alpha) {
-    if (alpha == 0) return 0;
-    return static_cast<std::uint8_t>(std::min(channelMax, channel * channelMax / alpha + 0.5));
-}
-
-std::uint8_t premultiplied(std::uint8_t channel, std::uint8_t alpha) {
-    return static_cast<std::uint8_t>(channel * alpha / channelMax + 0.5);
 }
 
 }  // namespace

@@ -60,8 +60,8 @@ class CaptureLoader {
 
     void load(const json& capture) {
         const json& system = capture.at("system");
-        desktop_.operatingSystem = {system.value("major", 0), system.value("minor", 0),
-                                    system.value("patch", 0)};
+        desktop_.systemInfo().version = {system.value("major", 0), system.value("minor", 0),
+                                         system.value("patch", 0)};
         for (const char* process : {"dock", "windowManager"}) {
             if (capture.contains(process) && capture[process].is_object()) {
                 for (const json& group : capture[process].value("groups", json::array()))

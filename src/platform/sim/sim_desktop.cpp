@@ -7,11 +7,16 @@ namespace vistrel {
 namespace {
 constexpr std::uint32_t firstDisplayID = 1;
 
+constexpr std::string_view builtInDisplayName = "Built-in Retina Display";
+constexpr std::string_view externalDisplayName = "Studio Display";
+
 ScreenDescription screenAt(Rect frame, std::uint32_t displayID) {
     Rect visible = frame;
     visible.height -= simMenuBarHeight + simDockHeight;
     visible.y += simDockHeight;  // AppKit: the Dock is at the bottom, y grows upwards
-    return {frame, visible, displayID, 2};
+    const std::string_view name =
+        displayID == firstDisplayID ? builtInDisplayName : externalDisplayName;
+    return {frame, visible, displayID, 2, std::string(name)};
 }
 }  // namespace
 
@@ -22,8 +27,31 @@ SimDesktop::SimDesktop()
       workspace_(*this),
       defaults_(bundle.identifier),
       screenList_(*this),
-      platform_{accessibility_, windowServer_, workspace_, screenList_, defaults_,   eventTap_,
-                executor_,      clock_,        systemLog_, loginItem_,  windowHost_, text_},
+      uploader_(executor_),
+      platform_{.accessibility = accessibility_,
+                .windowServer = windowServer_,
+                .workspace = workspace_,
+                .screens = screenList_,
+                .defaults = defaults_,
+                .eventTap = eventTap_,
+                .executor = executor_,
+                .clock = clock_,
+                .systemLog = systemLog_,
+                .loginItem = loginItem_,
+                .windowHost = windowHost_,
+                .text = text_,
+                .notifications = notifications_,
+                .updates = updates_,
+                .application = application_,
+                .systemInfo = systemInfo_,
+                .infoDictionary = infoDictionary_,
+                .files = files_,
+                .alert = alert_,
+                .reportDialog = reportDialog_,
+                .savePanel = savePanel_,
+                .archiver = archiver_,
+                .uploader = uploader_,
+                .fonts = fonts_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));
 }

@@ -8,16 +8,28 @@
 
 #include "platform/platform.h"
 #include "platform/sim/sim_accessibility.h"
+#include "platform/sim/sim_agent_application.h"
+#include "platform/sim/sim_archiver.h"
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_defaults.h"
 #include "platform/sim/sim_dock.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "platform/sim/sim_executor.h"
+#include "platform/sim/sim_file_system.h"
+#include "platform/sim/sim_font_registrar.h"
+#include "platform/sim/sim_info_dictionary.h"
 #include "platform/sim/sim_installations.h"
 #include "platform/sim/sim_login_item.h"
+#include "platform/sim/sim_modal_alert.h"
 #include "platform/sim/sim_model.h"
+#include "platform/sim/sim_notification_center.h"
+#include "platform/sim/sim_report_dialog.h"
+#include "platform/sim/sim_save_panel.h"
+#include "platform/sim/sim_system_info.h"
 #include "platform/sim/sim_system_log.h"
 #include "platform/sim/sim_text_measurer.h"
+#include "platform/sim/sim_updater.h"
+#include "platform/sim/sim_uploader.h"
 #include "platform/sim/sim_window_host.h"
 #include "platform/sim/sim_window_server.h"
 #include "platform/sim/sim_workspace.h"
@@ -54,6 +66,18 @@ class SimDesktop {
     SimSystemLog& systemLog() { return systemLog_; }
     SimLoginItem& loginItem() { return loginItem_; }
     SimWindowHost& windowHost() { return windowHost_; }
+    SimNotificationCenter& notifications() { return notifications_; }
+    SimUpdateService& updates() { return updates_; }
+    SimAgentApplication& application() { return application_; }
+    SimSystemInfo& systemInfo() { return systemInfo_; }
+    SimInfoDictionary& infoDictionary() { return infoDictionary_; }
+    SimFileSystem& files() { return files_; }
+    SimModalAlert& alert() { return alert_; }
+    SimReportDialog& reportDialog() { return reportDialog_; }
+    SimSavePanel& savePanel() { return savePanel_; }
+    SimArchiver& archiver() { return archiver_; }
+    SimUploader& uploader() { return uploader_; }
+    SimFontRegistrar& fonts() { return fonts_; }
     // The Dock and its Mission Control; not running until launched or opened.
     SimDock& dock() { return dock_; }
 
@@ -81,6 +105,8 @@ class SimDesktop {
     // Screens, in NSScreen.screens order, frames in AppKit coordinates.
     std::vector<ScreenDescription>& screens() { return screens_; }
     std::optional<std::size_t> mainScreenIndex = 0;
+    // NSScreen.screensHaveSeparateSpaces, on by default as on a Mac.
+    bool separateSpaces = true;
     // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
     void addScreenToTheRight(Size size);
     // The screens' frames in accessibility coordinates (origin at the primary's top-left).
@@ -90,10 +116,6 @@ class SimDesktop {
     Pid ownPid = 100;
     BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1",
                       "/Applications/Vistrel.app"};
-
-    // The system the desktop runs: where Mission Control lives depends on its major
-    // version (the Dock up to 26, WindowManager from 27).
-    OperatingSystemVersion operatingSystem{26, 0, 0};
 
     // The Accessibility grant; revoking it makes every accessibility call fail.
     bool trusted = true;
@@ -112,6 +134,18 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimNotificationCenter notifications_{executor_};
+    SimUpdateService updates_;
+    SimAgentApplication application_;
+    SimSystemInfo systemInfo_;
+    SimInfoDictionary infoDictionary_;
+    SimFileSystem files_;
+    SimModalAlert alert_;
+    SimReportDialog reportDialog_;
+    SimSavePanel savePanel_;
+    SimArchiver archiver_;
+    SimUploader uploader_;
+    SimFontRegistrar fonts_{bundle.path};
     Platform platform_;
     SimDock dock_;
     SimInstallations installations_{*this};

@@ -108,7 +108,7 @@ Pid SimDock::restart() {
 }
 
 bool SimDock::hostedByWindowManager() const {
-    return desktop_.operatingSystem.major >= firstWindowManagerMajor;
+    return desktop_.systemInfo().version.major >= firstWindowManagerMajor;
 }
 
 Pid SimDock::hostPid() const {

@@ -15,10 +15,11 @@ bool isMouseEvent(EventType type) {
 }
 }  // namespace
 
-bool SimEventTapPort::create(std::uint64_t mask, Handler handler) {
-    if (creationFails) return false;
+bool SimEventTapPort::create(EventTapLocation location, std::uint64_t mask, Handler handler) {
+    if (creationFails || (refusesHIDLocation && location == EventTapLocation::hid)) return false;
     handler_ = std::move(handler);
     mask_ = mask;
+    location_ = location;
     exists_ = true;
     valid_ = true;
     enabled_ = false;

@@ -13,7 +13,7 @@ namespace vistrel {
 // swallowed by the tap (false).
 class SimEventTapPort : public EventTapPort {
   public:
-    bool create(std::uint64_t mask, Handler handler) override;
+    bool create(EventTapLocation location, std::uint64_t mask, Handler handler) override;
     bool addToMainRunLoop() override;
     void enable(bool on) override;
     bool isValid() override { return exists_ && valid_; }
@@ -28,8 +28,10 @@ class SimEventTapPort : public EventTapPort {
     Point pointer() const { return pointer_; }
     void setPointer(Point location) { pointer_ = location; }
 
-    // Faults: tap creation or its run-loop source fails; the system invalidates the port.
+    // Faults: tap creation fails at every location or only at the HID location (as for a
+    // process that is not root); its run-loop source fails; the system invalidates the port.
     bool creationFails = false;
+    bool refusesHIDLocation = false;
     bool sourceFails = false;
     void invalidateBySystem() { valid_ = false; }
     // The system disables the tap, as it does when a callback is too slow.
@@ -49,6 +51,7 @@ class SimEventTapPort : public EventTapPort {
     bool exists() const { return exists_; }
     bool enabled() const { return enabled_; }
     std::uint64_t mask() const { return mask_; }
+    EventTapLocation location() const { return location_; }
     int creations() const { return creations_; }
     int enables() const { return enables_; }
 
@@ -59,6 +62,7 @@ class SimEventTapPort : public EventTapPort {
     std::vector<Delivery> deliveries_;
     Point pointer_;
     std::uint64_t mask_ = 0;
+    EventTapLocation location_ = EventTapLocation::hid;
     bool exists_ = false;
     bool valid_ = false;
     bool inRunLoop_ = false;

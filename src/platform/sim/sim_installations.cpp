@@ -25,6 +25,12 @@ const SimInstalledApplication* SimInstallations::find(const std::string& bundleI
     return found == installed_.end() ? nullptr : &*found;
 }
 
+const SimInstalledApplication* SimInstallations::at(const std::string& path) const {
+    auto found = std::find_if(installed_.begin(), installed_.end(),
+                              [&](const auto& app) { return app.path == path; });
+    return found == installed_.end() ? nullptr : &*found;
+}
+
 std::optional<Pid> SimInstallations::running(const std::string& bundleIdentifier) const {
     for (const SimApplication& app : desktop_.applications()) {
         if (app.bundleIdentifier == bundleIdentifier && !app.terminated) return app.pid;
@@ -34,9 +40,8 @@ std::optional<Pid> SimInstallations::running(const std::string& bundleIdentifier
 
 std::optional<double> SimInstallations::launch(const std::string& path) {
     settle();
-    auto found = std::find_if(installed_.begin(), installed_.end(),
-                              [&](const auto& app) { return app.path == path; });
-    if (found == installed_.end()) return std::nullopt;
+    const SimInstalledApplication* found = at(path);
+    if (found == nullptr) return std::nullopt;
     const double now = desktop_.clock().now();
     for (const Pending& pending : pending_) {
         if (pending.bundleIdentifier == found->bundleIdentifier) return pending.runsAt;

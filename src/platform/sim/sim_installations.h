@@ -33,6 +33,8 @@ class SimInstallations {
     // Installs an application, replacing one with the same bundle identifier.
     void install(SimInstalledApplication application);
     const SimInstalledApplication* find(const std::string& bundleIdentifier) const;
+    // The application installed at `path`, if any.
+    const SimInstalledApplication* at(const std::string& path) const;
 
     // Starts launching the application installed at `path`, unless it is running or already
     // launching: when it will run (or runs already). Nothing when nothing is installed there.

@@ -79,6 +79,7 @@ std::optional<std::string> SimWorkspace::applicationURL(const std::string& bundl
 
 void SimWorkspace::openApplication(const std::string& url, const OpenConfiguration& configuration,
                                    OpenCompletion completion) {
+    openRequests.emplace_back(url, configuration);
     if (launcher) {
         launcher(url, configuration, std::move(completion));
         return;
@@ -128,8 +129,10 @@ BundleInfo SimWorkspace::mainBundle() {
     return desktop_.bundle;
 }
 
-OperatingSystemVersion SimWorkspace::operatingSystemVersion() {
-    return desktop_.operatingSystem;
+std::optional<std::string> SimWorkspace::bundleIdentifier(const std::string& bundlePath) {
+    const SimInstalledApplication* installed = desktop_.installations().at(bundlePath);
+    if (installed == nullptr) return std::nullopt;
+    return installed->bundleIdentifier;
 }
 
 std::vector<ScreenDescription> SimScreenList::screens() {
@@ -141,6 +144,10 @@ std::optional<std::size_t> SimScreenList::mainScreenIndex() {
         return desktop_.mainScreenIndex;
     }
     return std::nullopt;
+}
+
+bool SimScreenList::screensHaveSeparateSpaces() {
+    return desktop_.separateSpaces;
 }
 
 }  // namespace vistrel

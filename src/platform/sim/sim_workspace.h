@@ -34,7 +34,7 @@ class SimWorkspace : public Workspace {
     bool openURL(const std::string& url) override;
     Pid ownPid() override;
     BundleInfo mainBundle() override;
-    OperatingSystemVersion operatingSystemVersion() override;
+    std::optional<std::string> bundleIdentifier(const std::string& bundlePath) override;
 
     // Installed applications by bundle identifier: where each one lives.
     std::map<std::string, std::string> installed;
@@ -44,6 +44,8 @@ class SimWorkspace : public Workspace {
     std::vector<Pid> activations;
     // Every launch asked for and waited on, with its configuration.
     std::vector<std::pair<std::string, OpenConfiguration>> launchRequests;
+    // Every openApplication call, with its configuration.
+    std::vector<std::pair<std::string, OpenConfiguration>> openRequests;
 
   private:
     SimDesktop& desktop_;
@@ -55,6 +57,7 @@ class SimScreenList : public ScreenList {
     explicit SimScreenList(SimDesktop& desktop) : desktop_(desktop) {}
     std::vector<ScreenDescription> screens() override;
     std::optional<std::size_t> mainScreenIndex() override;
+    bool screensHaveSeparateSpaces() override;
 
   private:
     SimDesktop& desktop_;

@@ -7,13 +7,10 @@ typedef NSString* NSColorSpaceName;
 
 VISTREL_EXTERN_C_BEGIN
 extern NSColorSpaceName const NSDeviceRGBColorSpace;
-extern NSColorSpaceName const NSCalibratedRGBColorSpace;
 VISTREL_EXTERN_C_END
 
-VISTREL_OPTIONS(NSUInteger, NSBitmapFormat){
-    NSBitmapFormatAlphaFirst = 1 << 0,
-    NSBitmapFormatAlphaNonpremultiplied = 1 << 1,
-};
+// Zero: alpha last and premultiplied, integer samples.
+typedef NSUInteger NSBitmapFormat;
 
 @interface NSImageRep : NSObject <NSCopying>
 @end

@@ -1,9 +1,7 @@
 #pragma once
 
-// The running system's version, as NSProcessInfo reports it.
-
-#include <Foundation/NSObjCRuntime.h>
 #include <Foundation/NSProcessInfo.h>
+#include <Foundation/NSString.h>
 
 typedef struct {
     NSInteger majorVersion;
@@ -11,6 +9,9 @@ typedef struct {
     NSInteger patchVersion;
 } NSOperatingSystemVersion;
 
-@interface NSProcessInfo (VistrelOperatingSystemVersion)
+@interface NSProcessInfo (OperatingSystem)
+// Human-readable, not for parsing: "Version 15.1 (Build 24B83)".
+@property(readonly, copy) NSString* operatingSystemVersionString;
 @property(readonly) NSOperatingSystemVersion operatingSystemVersion VISTREL_MACOS(10.10);
+@property(readonly) NSUInteger processorCount VISTREL_MACOS(10.5);
 @end

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/agent_application.h"
+
+namespace vistrel {
+
+// NSApplication.shared.
+class MacAgentApplication : public AgentApplication {
+  public:
+    void activate() override;
+    void terminate() override;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "platform/modal_alert.h"
+
+namespace vistrel {
+
+// Alerts on the simulated screen: each one is recorded, shown to an observer (a session
+// takes its picture) and answered with the next scripted button, or the default button
+// when the script has run out.
+class SimModalAlert : public ModalAlert {
+  public:
+    std::size_t run(const AlertContent& alert) override {
+        shown.push_back(alert);
+        std::size_t button = 0;
+        if (!answers.empty()) {
+            button = answers.front();
+            answers.pop_front();
+        }
+        if (observer) observer(alert, button);
+        return button;
+    }
+
+    std::deque<std::size_t> answers;
+    std::vector<AlertContent> shown;
+    std::function<void(const AlertContent&, std::size_t button)> observer;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <AppKit/NSModalResponse.h>
+#include <AppKit/NSView.h>
+#include <AppKit/NSWindow.h>
+#include <Foundation/NSString.h>
+
+@class NSButton;
+
+// The buttons' answers from -runModal, in the order they were added.
+static const NSModalResponse NSAlertFirstButtonReturn = 1000;
+static const NSModalResponse NSAlertSecondButtonReturn = 1001;
+static const NSModalResponse NSAlertThirdButtonReturn = 1002;
+
+@interface NSAlert : NSObject
+@property(copy) NSString* messageText;
+@property(copy) NSString* informativeText;
+// The first button added is the default (Return); one titled "Cancel" answers Escape.
+- (NSButton*)addButtonWithTitle:(NSString*)title;
+@property(nullable, strong) NSView* accessoryView;
+// Lays the alert out now, so its window can be adjusted before it runs.
+- (void)layout;
+@property(readonly, strong) NSWindow* window;
+- (NSModalResponse)runModal;
+@end

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <AppKit/NSView.h>
+
+VISTREL_ENUM(NSUInteger, NSBorderType){
+    NSNoBorder = 0,
+    NSLineBorder = 1,
+    NSBezelBorder = 2,
+    NSGrooveBorder = 3,
+};
+
+@interface NSScrollView : NSView
+- (instancetype)initWithFrame:(NSRect)frameRect;
+@property BOOL hasVerticalScroller;
+@property NSBorderType borderType;
+@property(nullable, strong) __kindof NSView* documentView;
+@end

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <AppKit/NSFont.h>
+#include <AppKit/NSView.h>
+#include <Foundation/NSString.h>
+
+@interface NSText : NSView
+@property(copy) NSString* string;
+@property(getter=isRichText) BOOL richText;
+@property(nullable, strong) NSFont* font;
+@property(getter=isVerticallyResizable) BOOL verticallyResizable;
+@end

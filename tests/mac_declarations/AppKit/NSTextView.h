@@ -1,0 +1,14 @@
+#pragma once
+
+#include <AppKit/NSText.h>
+
+@interface NSTextContainer : NSObject
+@property BOOL widthTracksTextView;
+@end
+
+@interface NSTextView : NSText
+- (instancetype)initWithFrame:(NSRect)frameRect;
+@property(nullable, readonly) NSTextContainer* textContainer;
+@property(getter=isAutomaticQuoteSubstitutionEnabled)
+    BOOL automaticQuoteSubstitutionEnabled VISTREL_MACOS(10.5);
+@end

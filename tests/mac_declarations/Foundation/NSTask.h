@@ -1,0 +1,16 @@
+#pragma once
+
+#include <Foundation/NSArray.h>
+#include <Foundation/NSError.h>
+#include <Foundation/NSURL.h>
+
+// Process in Swift.
+@interface NSTask : NSObject
+@property(nullable, copy) NSURL* executableURL VISTREL_MACOS(10.13);
+@property(nullable, copy) NSArray<NSString*>* arguments;
+// NO (with the error) when the executable could not be started.
+- (BOOL)launchAndReturnError:(out NSError* _Nullable* _Nullable)error VISTREL_MACOS(10.13);
+- (void)waitUntilExit;
+// Raises while the task is still running.
+@property(readonly) int terminationStatus;
+@end

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <Foundation/Foundation.h>
+
+@protocol SPUUserDriver <NSObject>
+@end
+
+@protocol SPUStandardUserDriverDelegate <NSObject>
+@optional
+// Whether the app shows its own gentle reminder of a scheduled update.
+@property(nonatomic, readonly) BOOL supportsGentleScheduledUpdateReminders;
+@end
+
+@interface SPUStandardUserDriver : NSObject <SPUUserDriver>
+// The driver holds its delegate weakly: the caller keeps it alive.
+- (instancetype)initWithHostBundle:(NSBundle*)hostBundle
+                          delegate:(nullable id<SPUStandardUserDriverDelegate>)delegate;
+@end

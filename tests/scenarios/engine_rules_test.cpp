@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "engine_scenario.h"
+#include "fake_engine_layouts.h"
+#include "platform/sim/sim_event_tap_port.h"
+#include "tracking/hotkey.h"
+#include "tracking/mission_control_detector.h"
+
+namespace vistrel::testing {
+namespace {
+
+constexpr std::uint64_t command = ModifierFlag::command;
+// The engine's first detector tick comes this long after start().
+constexpr double firstTickSeconds = 0.05;
+// Somewhere in the spaces bar at the top of the screen, over no thumbnail.
+constexpr Point overNoThumbnail{720, 20};
+
+// The engine's own rules, with a Layouts feature that never takes the pointer unless the
+// test says so, so that each rule can be watched on its own.
+class EngineRulesTest : public EngineScenario {
+  protected:
+    EngineRulesTest() : EngineRulesTest(new FakeEngineLayouts) {}
+
+    // Counts the reads of the Dock's Mission Control tree from now on.
+    void countThumbnailReads() {
+        auto dockSync = desktop.accessibility().onApplicationRead;
+        desktop.accessibility().onApplicationRead = [this, dockSync](Pid pid) {
+            if (pid == desktop.dock().pid()) ++thumbnailReads;
+            dockSync(pid);
+        };
+    }
+
+    // One tick; answers whether it read the thumbnails.
+    bool tickReads() {
+        const std::size_t before = thumbnailReads;
+        tick();
+        return thumbnailReads > before;
+    }
+
+    FakeEngineLayouts& layouts;
+    std::size_t thumbnailReads = 0;
+
+  private:
+    explicit EngineRulesTest(FakeEngineLayouts* fake)
+        : EngineScenario(std::unique_ptr<EngineLayouts>(fake)), layouts(*fake) {}
+};
+
+TEST_F(EngineRulesTest, TheFirstTickComesFiftyMillisecondsAfterStart) {
+    engine = Engine::make(std::make_unique<FakeEngineLayouts>());
+    desktop.dock().open();
+    engine->start();
+    desktop.executor().advance(firstTickSeconds - 0.001);
+    EXPECT_FALSE(engine->active());
+    desktop.executor().advance(0.001);
+    EXPECT_TRUE(engine->active());
+}
+
+TEST_F(EngineRulesTest, ThumbnailsAreReadOnEveryTickForSixteenTicksThenOnEveryFourth) {
+    countThumbnailReads();
+    openMissionControl();
+    ASSERT_EQ(thumbnailReads, 1u) << "the opening tick reads them";
+    std::vector<int> readingTicks;
+    for (int tick = 1; tick <= 24; ++tick) {
+        if (tickReads()) readingTicks.push_back(tick);
+    }
+    EXPECT_EQ(readingTicks,
+              (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 20, 24}));
+}
+
+TEST_F(EngineRulesTest, WindowsMovedStartsTheCountOfTicksAgain) {
+    countThumbnailReads();
+    openMissionControl();
+    for (int tick = 1; tick <= 17; ++tick)
+        this->tick();
+    ASSERT_FALSE(tickReads()) << "tick 18 is between two fourth ticks";
+    move(inside(thumbOf("Notes")));
+    ASSERT_TRUE(engine->target());
+
+    layouts.onWindowsMoved();
+    EXPECT_FALSE(engine->target());
+    EXPECT_TRUE(tickReads());
+    EXPECT_TRUE(tickReads());
+    EXPECT_TRUE(tickReads());
+}
+
+TEST_F(EngineRulesTest, SafeZoneKeepsTheStripOutsideTheThumbnailAndOutsideEveryButton) {
+    openMissionControl();
+    const Rect thumb = thumbOf("Notes");
+    move(inside(thumb));
+    ASSERT_TRUE(engine->layout());
+    const Rect close = engine->layout()->items.front().rect;
+    // In the zone's padding just above the close button, on the way to it.
+    const Point padding{close.midX(), close.minY() - 1};
+    ASSERT_FALSE(thumb.contains(padding));
+    for (const auto& item : engine->layout()->items)
+        ASSERT_FALSE(item.rect.contains(padding));
+
+    move(padding);
+    EXPECT_TRUE(engine->target());
+    EXPECT_TRUE(engine->overlay().window().isVisible());
+    EXPECT_FALSE(engine->overlay().hovered());
+}
+
+TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBackOnItsPoint) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    auto& accessibility = desktop.accessibility();
+    auto dockHitTest = accessibility.hitTestOverride;
+    auto hover = desktop.executor().queue(std::string(Engine::hoverQueueLabel));
+    bool staged = false;
+    accessibility.hitTestOverride = [&](Point at) {
+        if (!staged) {
+            staged = true;
+            // While this hit-test runs: Mission Control closes and opens again, the new
+            // opening's thumbnails are read, and the pointer comes back to the same point
+            // while the shelf holds it, so that no new look-up starts.
+            desktop.dock().close();
+            desktop.executor().advanceMain(MissionControlDetector::openInterval);
+            desktop.dock().open();
+            desktop.executor().advanceMain(MissionControlDetector::closedInterval);
+            hover->runOne();
+            desktop.executor().mainQueue().drain();
+            layouts.claimsPointer = true;
+            desktop.eventTap().deliver(SimInput::mouseMoved(point));
+            layouts.claimsPointer = false;
+        }
+        return dockHitTest(at);
+    };
+    desktop.eventTap().deliver(SimInput::mouseMoved(point));
+    settle();
+    ASSERT_TRUE(staged);
+    ASSERT_TRUE(engine->active());
+    ASSERT_FALSE(engine->thumbs().empty());
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
+TEST_F(EngineRulesTest, ShelfShownUnderThePointWhileItIsLookedUpWinsOverTheStrip) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    desktop.eventTap().deliver(SimInput::mouseMoved(point));
+    layouts.shelf = Rect{point.x - 50, point.y - 20, 100, 40};
+    settle();
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
+TEST_F(EngineRulesTest, HoveringAWindowOfTheDockShowsNoStrip) {
+    openMissionControl();
+    auto& ax = desktop.accessibility();
+    const Pid dock = desktop.dock().pid();
+    const SimNodeId closeButton = ax.addNode(dock, {{"AXRole", std::string("AXButton")}});
+    const SimNodeId window = ax.addNode(dock, {{"AXRole", std::string("AXWindow")},
+                                               {"AXCloseButton", ax.nodeElement(closeButton)}});
+    const AXElement dockWindow = ax.nodeElement(window);
+    ax.hitTestOverride = [dockWindow](Point) { return dockWindow; };
+    move(inside(thumbOf("Notes")));
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
+TEST_F(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    move(point);
+    ASSERT_TRUE(engine->target());
+    const std::size_t hitTests = desktop.accessibility().hitTests();
+    move(point);
+    EXPECT_EQ(desktop.accessibility().hitTests(), hitTests);
+}
+
+TEST_F(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {
+    openMissionControl();
+    const Point point = inside(thumbOf("Notes"));
+    move(point);
+    ASSERT_TRUE(engine->target());
+    key(KeyCode::w, command);
+    ASSERT_FALSE(engine->target());
+    const std::size_t hitTests = desktop.accessibility().hitTests();
+    move(point);
+    EXPECT_EQ(desktop.accessibility().hitTests(), hitTests + 1);
+}
+
+TEST_F(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAnswers) {
+    openMissionControl();
+    move(inside(thumbOf("Notes")));
+    ASSERT_TRUE(engine->target());
+    desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Start Page"))));
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+    settle();
+    ASSERT_TRUE(engine->target());
+    EXPECT_EQ(engine->target()->window,
+              desktop.accessibility().windowElement(windowTitled("Start Page")));
+}
+
+TEST_F(EngineRulesTest, ResultForAPointThePointerHasLeftIsDropped) {
+    openMissionControl();
+    desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Notes"))));
+    desktop.eventTap().deliver(SimInput::mouseMoved(overNoThumbnail));
+    settle();
+    EXPECT_FALSE(engine->target());
+    EXPECT_FALSE(engine->overlay().window().isVisible());
+}
+
+}  // namespace
+}  // namespace vistrel::testing

@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "fuzz/command_fuzz.h"
+
+namespace vistrel {
+namespace {
+
+using Dictionary = DefaultsValue::Dictionary;
+
+TEST(CommandFuzzRegression, WellFormedCommandsAndNearMissesKeepThePromise) {
+    const std::vector<NotificationCenter::UserInfo> inputs{
+        std::nullopt,
+        Dictionary{},
+        Dictionary{{"command", "applySettings"}},
+        Dictionary{{"command", "requestAccessibility"}},
+        Dictionary{{"command", "setLaunchAtLogin"}, {"value", true}},
+        Dictionary{{"command", "setLaunchAtLogin"}, {"value", Dictionary{{"value", true}}}},
+        Dictionary{{"command", "checkForUpdates"}},
+        Dictionary{{"command", "CheckForUpdates"}},
+        Dictionary{{"command", std::string("applySettings\0", 14)}},
+        Dictionary{{"command", DefaultsValue::Data{'a', 'p', 'p'}}},
+        Dictionary{{"command", DefaultsValue::Array{"applySettings"}}},
+        Dictionary{{"Command", "applySettings"}},
+    };
+    for (const auto& input : inputs)
+        EXPECT_TRUE(fuzz::dispatchKeepsItsPromise(input));
+}
+
+TEST(CommandFuzzRegression, ArbitraryBytesKeepThePromise) {
+    // A fixed stream of bytes from a linear congruential generator, cut into inputs.
+    std::uint32_t state = 1;
+    constexpr int inputs = 500;
+    constexpr std::size_t bytesEach = 48;
+    for (int i = 0; i < inputs; ++i) {
+        std::string bytes;
+        for (std::size_t b = 0; b < bytesEach; ++b) {
+            state = state * 1664525u + 1013904223u;
+            bytes.push_back(static_cast<char>(state >> 24));
+        }
+        const auto userInfo = fuzz::UserInfoReader(bytes).userInfo();
+        ASSERT_TRUE(fuzz::dispatchKeepsItsPromise(userInfo)) << "input " << i;
+    }
+}
+
+}  // namespace
+}  // namespace vistrel
