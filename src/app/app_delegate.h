@@ -14,7 +14,8 @@ class StatusMenuController;
 // The agent's start-up and its answers to the system: decides whether this process should
 // run at all (a test host, a second copy, a copy that is being moved), then builds the
 // long-lived parts in a fixed order — fonts, status menu, command channel, first run and
-// the Accessibility prompt, the published status, the engine, the start-up line, updates.
+// the Accessibility prompt, the published status, the engine and where it reads Mission
+// Control, the start-up line, updates.
 // Main thread only; lives for the whole run.
 class AppDelegate {
   public:

@@ -37,8 +37,9 @@ class WindowServer {
     virtual std::optional<std::vector<WindowDescription>> windowList(std::uint32_t options) = 0;
     // CGDisplayCreateUUIDFromDisplayID + CFUUIDCreateString; nothing for an unknown display.
     virtual std::optional<std::string> displayUUID(std::uint32_t displayID) = 0;
-    // CGEventCreateKeyboardEvent(nullptr, keyCode, down) posted with CGEventPost to the HID
-    // event tap location. False when the event could not be made.
+    // CGEventCreateKeyboardEvent with a CGEventSourceCreate(kCGEventSourceStateHIDSystemState)
+    // source, posted with CGEventPost to the HID event tap location. False when the event
+    // could not be made.
     virtual bool postKey(std::uint16_t keyCode, bool down) = 0;
     // Where the pointer is now, in accessibility coordinates: the location of a fresh event
     // (CGEventCreate(nullptr), CGEventGetLocation).

@@ -5,6 +5,8 @@
 
 #include "platform/platform.h"
 #include "settings/preference_key.h"
+#include "tracking/mission_control_host.h"
+#include "tracking/thumbnail_window.h"
 
 namespace vistrel::AX {
 
@@ -63,11 +65,21 @@ bool isSettable(const AXElement& element, std::string_view attribute) {
     return accessibility().isSettable(element, attribute, settable) == AXError::success && settable;
 }
 
-std::optional<WindowHit> windowAt(Point point) {
+std::optional<AXElement> elementAt(Point point) {
     AXElement hit;
     if (accessibility().elementAtPosition(systemWide(), point, hit) != AXError::success || !hit) {
         return std::nullopt;
     }
+    return hit;
+}
+
+std::optional<WindowHit> windowAt(Point point) {
+    if (MissionControlHosts::running() == MissionControlHost::windowManager) {
+        return ThumbnailWindow::at(point);
+    }
+    const auto found = elementAt(point);
+    if (!found) return std::nullopt;
+    const AXElement& hit = *found;
     AXValue hitRole;
     const AXError roleRead = accessibility().copyAttribute(hit, role, hitRole);
     // A process that did not answer in time will not answer the next question either:

@@ -70,7 +70,12 @@ std::optional<Rect> frame(const AXElement& element);
 // Whether the attribute can be written; a failing query counts as "no".
 bool isSettable(const AXElement& element, std::string_view attribute);
 
-// The window under a point (the hit element itself, or the window it belongs to).
+// The element the system-wide hit-test answers at a point; nothing on any error.
+std::optional<AXElement> elementAt(Point point);
+
+// The window under a point. Where Mission Control lives in the Dock: the hit element itself,
+// or the window it belongs to. Where it lives in WindowManager: the window the thumbnail
+// under the point names.
 std::optional<WindowHit> windowAt(Point point);
 
 // The overlay buttons that can act on the window under the "maximizeMode" setting.

@@ -3,10 +3,16 @@
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "tracking/ax.h"
+#include "tracking/mission_control_host.h"
+#include "tracking/thumbnail_reader.h"
 
 namespace vistrel {
 
 namespace {
+
+constexpr std::string_view children = "AXChildren";
+constexpr std::string_view identifier = "AXIdentifier";
 
 bool isMissionControlWindow(const WindowDescription& window) {
     if (window.ownerName != MissionControlDetector::dock) return false;
@@ -23,10 +29,31 @@ bool onboardingCompleted() {
 }  // namespace
 
 bool MissionControlDetector::isMissionControlOpen() {
+    if (MissionControlHosts::running() == MissionControlHost::dock) {
+        return windowListShowsMissionControl();
+    }
+    ApplicationElement dock(ThumbnailReader::dockBundleIdentifier, ThumbnailReader::dockTimeout);
+    return dockShowsMissionControl(dock);
+}
+
+bool MissionControlDetector::windowListShowsMissionControl() {
     const auto windows = platform().windowServer.windowList(WindowListOption::onScreenOnly);
     if (!windows) return false;
     for (const WindowDescription& window : *windows) {
         if (isMissionControlWindow(window)) return true;
+    }
+    return false;
+}
+
+// The Dock keeps an empty "mc" group while Mission Control is open; "appexpose" (the
+// windows of one application) and its other children do not count.
+bool MissionControlDetector::dockShowsMissionControl(ApplicationElement& dock) {
+    const auto element = dock.get();
+    if (!element) return false;
+    for (const AXElement& child : AX::elements(*element, children)) {
+        if (AX::string(child, identifier) == ThumbnailReader::missionControlIdentifier) {
+            return true;
+        }
     }
     return false;
 }
@@ -45,7 +72,31 @@ void MissionControlDetector::schedule(double interval) {
 
 void MissionControlDetector::tick() {
     const bool trusted = platform().accessibility.isProcessTrusted();
-    const bool open = trusted && isMissionControlOpen();
+    if (trusted && MissionControlHosts::running() == MissionControlHost::windowManager) {
+        readInBackground();
+        return;
+    }
+    report(trusted, trusted && windowListShowsMissionControl());
+}
+
+// One read in flight at most: the next poll is armed only when its answer is back.
+void MissionControlDetector::readInBackground() {
+    if (!queue_) {
+        queue_ = platform().executor.makeQueue(std::string(queueLabel),
+                                               QualityOfService::userInteractive);
+        dock_ = std::make_shared<ApplicationElement>(ThumbnailReader::dockBundleIdentifier,
+                                                     ThumbnailReader::dockTimeout);
+    }
+    std::weak_ptr<int> alive = alive_;
+    queue_->async([this, alive, dock = dock_] {
+        const bool open = dockShowsMissionControl(*dock);
+        platform().executor.main().async([this, alive, open] {
+            if (alive.lock()) report(true, open);
+        });
+    });
+}
+
+void MissionControlDetector::report(bool trusted, bool open) {
     std::weak_ptr<int> alive = alive_;
     if (onTick) onTick(open);
     // The listener may have freed the detector; then the chain ends here.

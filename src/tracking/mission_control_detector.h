@@ -6,13 +6,17 @@
 #include <string_view>
 
 #include "platform/executor.h"
+#include "tracking/application_element.h"
 
 namespace vistrel {
 
-// Tells whether Mission Control is open by polling the on-screen window list, since macOS
-// announces nothing. A chain of one-shot timers on the main thread reports the answer on
-// every poll: fast while Mission Control is open, slowly while it is closed, more slowly
-// still without the Accessibility grant, so that an idle agent costs almost nothing.
+// Tells whether Mission Control is open by polling, since macOS announces nothing. Up to
+// macOS 26 one look at the on-screen window list answers; from 27 the Dock's accessibility
+// tree does (it lists an "mc" group exactly while Mission Control is open), read on a
+// background queue so that the main thread never waits on the Dock. A chain of one-shot
+// timers on the main thread reports the answer on every poll: fast while Mission Control
+// is open, slowly while it is closed, more slowly still without the Accessibility grant,
+// so that an idle agent costs almost nothing.
 class MissionControlDetector {
   public:
     // The owner name of the Dock's windows, and the name of its application-icon window.
@@ -30,14 +34,21 @@ class MissionControlDetector {
     static constexpr double startDelay = 0.05;
     // Every timer may fire this fraction of its interval late, so wake-ups coalesce.
     static constexpr double toleranceFraction = 0.1;
+    // Where the Dock's tree is read from macOS 27 on.
+    static constexpr std::string_view queueLabel = "com.quillmarsh.vistrel.detector";
 
     MissionControlDetector() = default;
     MissionControlDetector(const MissionControlDetector&) = delete;
     MissionControlDetector& operator=(const MissionControlDetector&) = delete;
 
-    // One look at the window list: a Dock window on the Mission Control layer, or the
-    // Dock's "appicon" window on any layer.
+    // One look, wherever the running system shows Mission Control. Blocks on the Dock from
+    // macOS 27 on, so the main thread never calls it there.
     static bool isMissionControlOpen();
+    // Up to macOS 26: a Dock window on the Mission Control layer, or the Dock's "appicon"
+    // window on any layer, in the on-screen window list.
+    static bool windowListShowsMissionControl();
+    // From macOS 27: the Dock's application element has a child identified "mc".
+    static bool dockShowsMissionControl(ApplicationElement& dock);
     // The pacing table.
     static double nextInterval(bool trusted, bool open, bool onboardingCompleted);
 
@@ -50,12 +61,18 @@ class MissionControlDetector {
 
   private:
     void tick();
+    // Hands the Dock's answer to the listener on the main thread once read on the queue.
+    void readInBackground();
+    void report(bool trusted, bool open);
 
     // The timer's closure holds this token weakly instead of the detector: once the
     // detector is gone the token is too, so a late firing finds nothing and the chain ends.
     // A token (rather than shared_from_this) lets the owner keep the detector by value.
     std::shared_ptr<int> alive_ = std::make_shared<int>(0);
     std::unique_ptr<Timer> timer_;
+    std::shared_ptr<SerialQueue> queue_;
+    // Shared with the job on the queue, which must not reach into a detector that is gone.
+    std::shared_ptr<ApplicationElement> dock_;
 };
 
 }  // namespace vistrel

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "tracking/ax.h"
+#include "tracking/mission_control_host.h"
 
 namespace vistrel {
 
@@ -16,26 +17,17 @@ bool isIdentified(const AXElement& element, std::string_view wanted) {
 
 }  // namespace
 
-std::optional<AXElement> ThumbnailReader::dockElement() {
-    Workspace& workspace = platform().workspace;
-    if (dock_) {
-        const auto running = workspace.application(dockPid_);
-        if (running && !running->terminated) return dock_;
+std::vector<Rect> ThumbnailReader::frames() {
+    if (MissionControlHosts::running() == MissionControlHost::windowManager) {
+        return windowManagerFrames();
     }
-    for (const RunningApplication& app : workspace.runningApplications()) {
-        if (app.bundleIdentifier != dockBundleIdentifier) continue;
-        Accessibility& accessibility = platform().accessibility;
-        dockPid_ = app.pid;
-        dock_ = accessibility.application(app.pid);
-        accessibility.setMessagingTimeout(dock_, dockTimeout);
-        return dock_;
-    }
-    return std::nullopt;
+    return dockFrames();
 }
 
-std::vector<Rect> ThumbnailReader::frames() {
+std::vector<Rect> ThumbnailReader::dockFrames() {
     std::vector<Rect> result;
-    const auto dock = dockElement();
+    const auto dock = dock_.get();
+    hostPid_ = dock_.pid();
     if (!dock) return result;
     for (const AXElement& container : AX::elements(*dock, children)) {
         if (!isIdentified(container, missionControlIdentifier)) continue;
@@ -43,6 +35,15 @@ std::vector<Rect> ThumbnailReader::frames() {
             appendGroupFrames(level, result);
         }
     }
+    return result;
+}
+
+std::vector<Rect> ThumbnailReader::windowManagerFrames() {
+    std::vector<Rect> result;
+    for (const MissionControlThumbnail& thumbnail : windowManager_.read()) {
+        result.push_back(thumbnail.frame);
+    }
+    hostPid_ = windowManager_.pid();
     return result;
 }
 

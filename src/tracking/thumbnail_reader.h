@@ -1,18 +1,20 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/ax_element.h"
 #include "platform/geometry.h"
 #include "platform/process.h"
+#include "tracking/application_element.h"
+#include "tracking/window_manager_thumbnails.h"
 
 namespace vistrel {
 
-// Reads the on-screen rectangles of Mission Control's window thumbnails from the Dock's
-// accessibility tree. Only rectangles: which window a thumbnail shows is found by
-// hit-testing at the pointer. Called from one work queue only, so the cache needs no lock.
+// Reads the on-screen rectangles of Mission Control's window thumbnails from the tree of
+// the process that draws it: the Dock up to macOS 26, WindowManager from 27. Only
+// rectangles: which window a thumbnail shows is found by hit-testing at the pointer.
+// Called from one work queue only, so the caches need no lock.
 class ThumbnailReader {
   public:
     static constexpr std::string_view dockBundleIdentifier = "com.apple.dock";
@@ -23,19 +25,21 @@ class ThumbnailReader {
     static constexpr float dockTimeout = 0.3f;
 
     // The thumbnail rectangles in tree order (container by container, group by group),
-    // in accessibility coordinates; empty when the Dock or Mission Control is not there.
+    // in accessibility coordinates; empty when the host or Mission Control is not there.
     std::vector<Rect> frames();
 
-    // The process the cached Dock element belongs to; 0 until the Dock was first found.
-    Pid dockPid() const { return dockPid_; }
+    // The process that draws Mission Control, as last read: the Dock, or WindowManager
+    // from macOS 27 on; 0 until it was first found. Its elements are never targets.
+    Pid dockPid() const { return hostPid_; }
 
   private:
-    // The cached Dock element, made anew when the Dock process it belongs to has gone.
-    std::optional<AXElement> dockElement();
+    std::vector<Rect> dockFrames();
+    std::vector<Rect> windowManagerFrames();
     void appendGroupFrames(const AXElement& level, std::vector<Rect>& frames);
 
-    AXElement dock_;
-    Pid dockPid_ = 0;
+    ApplicationElement dock_{dockBundleIdentifier, dockTimeout};
+    WindowManagerThumbnails windowManager_;
+    Pid hostPid_ = 0;
 };
 
 }  // namespace vistrel

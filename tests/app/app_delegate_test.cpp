@@ -142,6 +142,11 @@ TEST_F(AppDelegateTest, TheStartLineNamesVersionSystemAndGrant) {
         1u);
 }
 
+TEST_F(AppDelegateTest, StartUpSaysWhereMissionControlIsRead) {
+    launch();
+    EXPECT_EQ(desktop.systemLog().count("mission control: reading the Dock"), 1u);
+}
+
 TEST_F(AppDelegateTest, AMissingVersionIsWrittenAsAQuestionMark) {
     desktop.bundle.version.clear();
     desktop.bundle.build.clear();

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "escape_keys.h"
 #include "layout_actions_test.h"
 #include "layouts/layout_actions.h"
 #include "windows/recording_accessibility.h"
@@ -13,15 +14,7 @@
 namespace vistrel {
 namespace {
 
-using Keys = std::vector<std::pair<std::uint16_t, bool>>;
-
-// Steps of virtual time either side of a deadline, well clear of rounding.
-constexpr double justBefore = 0.01;
-constexpr double justAfter = 0.02;
-
-const Keys escape{{53, true}, {53, false}};
-const Keys escapeTwice{{53, true}, {53, false}, {53, true}, {53, false}};
-const std::string stillOpen = "layouts: Mission Control still open after Escape, sending it again";
+using namespace testing;
 
 class LayoutActionsLeaveTest : public testing::LayoutActionsTest {
   protected:

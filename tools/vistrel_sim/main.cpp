@@ -14,7 +14,8 @@ std::vector<SimCommand>& registry() {
 }
 
 void printUsage(std::ostream& out) {
-    out << "usage: vistrel-sim [COMMAND]\n\nWith no command, runs them all in turn.\n\n";
+    out << "usage: vistrel-sim [COMMAND [ARGUMENTS]]\n\nWith no command, runs them all in "
+           "turn.\n\n";
     for (const SimCommand& command : simCommands()) {
         out << "  " << command.name << "  " << command.summary << "\n";
     }
@@ -45,6 +46,7 @@ int main(int argc, char** argv) {
             printUsage(context.out);
             return 0;
         }
+        context.arguments.assign(argv + 2, argv + argc);
         for (const SimCommand& command : simCommands()) {
             if (command.name == wanted) return command.run(context);
         }

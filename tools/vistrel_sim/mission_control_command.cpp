@@ -4,9 +4,8 @@
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_scene.h"
 #include "sim_command.h"
-#include "tracking/ax.h"
+#include "thumbnail_printout.h"
 #include "tracking/mission_control_detector.h"
-#include "tracking/thumbnail_reader.h"
 
 namespace vistrel {
 
@@ -22,31 +21,14 @@ void pollAndPrint(SimDesktop& desktop, double started, const bool& verdict, std:
         << (verdict ? "open" : "closed") << ", next poll in " << next << " s\n";
 }
 
-std::string windowUnder(SimDesktop& desktop, Point point) {
-    const auto hit = AX::windowAt(point);
-    if (!hit) return "no window";
-    const SimApplication* app = desktop.application(hit->pid);
-    return (app ? app->name : "?") + " — \"" + AX::string(hit->window, "AXTitle").value_or("") +
-           "\"";
-}
-
-void printThumbnails(SimDesktop& desktop, std::ostream& out) {
-    ThumbnailReader reader;
-    const auto frames = reader.frames();
-    out << "  thumbnail reader: " << frames.size() << " thumbnails from the Dock (pid "
-        << reader.dockPid() << ")\n";
-    for (const Rect& frame : frames) {
-        out << "    " << describeRect(frame) << "  shows " << windowUnder(desktop, frame.mid())
-            << "\n";
-    }
-}
-
-int runMissionControl(SimCommandContext& context) {
+// The session on a system of the given major version: up to 26 Mission Control lives in
+// the Dock, from 27 in WindowManager.
+int showSession(std::ostream& out, int major) {
     SimDesktop desktop;
     ScopedPlatform installed(desktop);
+    desktop.systemInfo().version.major = major;
     populateDefaultScene(desktop);
-    std::ostream& out = context.out;
-    out << "== mission control on the default scene ==\n";
+    out << "== mission control on the default scene, macOS " << major << " ==\n";
 
     bool verdict = false;
     MissionControlDetector detector;
@@ -68,10 +50,19 @@ int runMissionControl(SimCommandContext& context) {
     return 0;
 }
 
+constexpr int dockGeneration = 26;
+constexpr int windowManagerGeneration = 27;
+
+int runMissionControl(SimCommandContext& context) {
+    return showSession(context.out, dockGeneration) |
+           showSession(context.out, windowManagerGeneration);
+}
+
 }  // namespace
 
-VISTREL_SIM_COMMAND("mission-control",
-                    "opens Mission Control, prints the detector's verdict and the thumbnails read",
-                    20, runMissionControl);
+VISTREL_SIM_COMMAND(
+    "mission-control",
+    "opens Mission Control on macOS 26 and 27, prints the verdicts and the thumbnails read", 20,
+    runMissionControl);
 
 }  // namespace vistrel

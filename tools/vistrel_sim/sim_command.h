@@ -12,6 +12,8 @@ namespace vistrel {
 struct SimCommandContext {
     std::ostream& out;
     std::filesystem::path outputDirectory;
+    // What followed the command's name on the command line.
+    std::vector<std::string> arguments = {};
 };
 
 // One thing vistrel-sim can do: print the default scene, play a scripted session, render

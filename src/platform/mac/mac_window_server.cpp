@@ -77,8 +77,11 @@ std::optional<std::string> MacWindowServer::displayUUID(std::uint32_t displayID)
     return textOf(text.get());
 }
 
+// The event comes from the HID system's state table, as a key pressed on a keyboard would:
+// Mission Control then takes it for a key typed by the user, on every version.
 bool MacWindowServer::postKey(std::uint16_t keyCode, bool down) {
-    const CFOwned<CGEventRef> event(CGEventCreateKeyboardEvent(nullptr, keyCode, down));
+    const CFOwned<CGEventSourceRef> source(CGEventSourceCreate(kCGEventSourceStateHIDSystemState));
+    const CFOwned<CGEventRef> event(CGEventCreateKeyboardEvent(source.get(), keyCode, down));
     if (!event) return false;
     CGEventPost(kCGHIDEventTap, event.get());
     return true;

@@ -1,10 +1,14 @@
 #import <AppKit/AppKit.h>
+#include <dispatch/dispatch.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <iostream>
 
 #include "app/agent_main.h"
 #include "app/app_delegate.h"
 #include "platform/mac/mac_platform.h"
+#include "tracking/mission_control_capture.h"
 
 // Hands AppKit's two questions to the agent's delegate, where every decision is made.
 @interface VistrelAppDelegate : NSObject <NSApplicationDelegate>
@@ -24,11 +28,29 @@
 
 @end
 
+namespace {
+
+// `Vistrel --capture-mission-control FILE`: the core waits for Mission Control and writes
+// the file; the main queue runs until it reports, then the process exits.
+[[noreturn]] void capture(const vistrel::MissionControlCapture::Request& request) {
+    using vistrel::MissionControlCapture::Outcome;
+    std::puts("mission control: open Mission Control within a minute to capture it");
+    vistrel::MissionControlCapture::start(request, [request](Outcome outcome) {
+        std::puts(vistrel::MissionControlCapture::message(outcome, request).c_str());
+        std::exit(outcome == Outcome::written ? EXIT_SUCCESS : EXIT_FAILURE);
+    });
+    dispatch_main();
+}
+
+}  // namespace
+
 // The agent: an accessory application (a status item, no Dock icon) over the core.
 int main() {
     @autoreleasepool {
         static vistrel::MacPlatform machine;
         vistrel::installPlatform(&machine.platform());
+        const auto arguments = machine.platform().launch.arguments();
+        if (auto request = vistrel::MissionControlCapture::requested(arguments)) capture(*request);
         return vistrel::AgentMain::run(std::cout, [] {
             // The application holds its delegate weakly; this one lives as long as the process.
             static VistrelAppDelegate* delegate = [[VistrelAppDelegate alloc] init];

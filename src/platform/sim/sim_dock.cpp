@@ -12,6 +12,10 @@ namespace {
 // Window numbers of the Dock's own windows, far above those of application windows.
 constexpr std::uint32_t barWindowNumber = 0x7000;
 constexpr std::uint32_t firstMissionControlWindowNumber = 0x7100;
+constexpr std::uint32_t firstFullScreenWindowNumber = 0x7200;
+// The desktop the thumbnails of visible windows belong to, and the one of other windows.
+constexpr std::string_view currentSpace = ".space.1";
+constexpr std::string_view otherSpace = ".space.2";
 
 Rect rounded(Rect r) {
     return {std::round(r.x), std::round(r.y), std::round(r.width), std::round(r.height)};
@@ -64,7 +68,7 @@ SimDock::SimDock(SimDesktop& desktop) : desktop_(desktop) {
     SimAccessibility& accessibility = desktop_.accessibility();
     accessibility.hitTestOverride = [this](Point point) { return hitTest(point); };
     accessibility.onApplicationRead = [this](Pid pid) {
-        if (pid == pid_) sync();
+        if (pid == pid_ || (pid != 0 && pid == windowManagerPid_)) sync();
     };
     desktop_.eventTap().onPassed = [this](const InputEvent& event) {
         if (event.type == EventType::leftMouseUp) clicked(event.location);
@@ -103,8 +107,29 @@ Pid SimDock::restart() {
     return launch();
 }
 
+bool SimDock::hostedByWindowManager() const {
+    return desktop_.systemInfo().version.major >= firstWindowManagerMajor;
+}
+
+Pid SimDock::hostPid() const {
+    return hostedByWindowManager() ? windowManagerPid_ : pid_;
+}
+
+void SimDock::launchWindowManager() {
+    if (windowManagerPid_ != 0 && desktop_.application(windowManagerPid_)) return;
+    SimApplication windowManager;
+    windowManager.bundleIdentifier = std::string(windowManagerBundleIdentifier);
+    windowManager.name = std::string(windowManagerName);
+    windowManager.activationPolicy = ActivationPolicy::accessory;
+    windowManagerPid_ = desktop_.addApplication(std::move(windowManager));
+}
+
 void SimDock::open() {
     launch();
+    if (hostedByWindowManager()) {
+        launchWindowManager();
+        fullScreenWindowShown_ = true;
+    }
     open_ = true;
     rebuild(visibleWindows());
     publishWindows();
@@ -213,10 +238,45 @@ void SimDock::rebuild(const std::vector<Shown>& shown) {
         displayNodes_.push_back(display);
         displays.push_back(accessibility.nodeElement(display));
     }
-    missionControlNode_ = accessibility.addNode(pid_, group("mc", displays));
+    setHostChildren(std::move(displays));
+}
+
+// Up to macOS 26 the displays hang under the Dock's "mc" group; from 27 that group stays
+// empty and the displays are WindowManager's own children.
+void SimDock::setHostChildren(std::vector<AXElement> displays) {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    const bool windowManager = hostedByWindowManager();
+    missionControlNode_ = accessibility.addNode(
+        pid_, group("mc", windowManager ? std::vector<AXElement>{} : displays));
     treeNodes_.push_back(missionControlNode_);
     accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_),
                                                accessibility.nodeElement(missionControlNode_)};
+    if (windowManager) accessibility.applicationChildren[windowManagerPid_] = std::move(displays);
+}
+
+AXElement SimDock::thumbnailNode(std::map<std::string, AXValue> attributes) {
+    SimAccessibility& accessibility = desktop_.accessibility();
+    attributes["AXRole"] = std::string("AXButton");
+    const SimNodeId node = accessibility.addNode(hostPid(), std::move(attributes));
+    treeNodes_.push_back(node);
+    return accessibility.nodeElement(node);
+}
+
+// Other desktops' thumbnails, each shifted over one of the visible ones.
+std::vector<AXElement> SimDock::otherDesktopThumbnails(const std::vector<Rect>& visible) {
+    std::vector<AXElement> thumbnails;
+    for (std::size_t i = 0; i < otherDesktop.size() && !visible.empty(); ++i) {
+        const SimOtherDesktopWindow& window = otherDesktop[i];
+        Rect frame = visible[i % visible.size()];
+        frame.x += otherDesktopOffset;
+        frame.y += otherDesktopOffset;
+        thumbnails.push_back(
+            thumbnailNode({{"AXTitle", window.title},
+                           {"AXFrame", frame},
+                           {"AXIdentifier", window.bundleIdentifier + std::string(otherSpace)},
+                           {"wid", static_cast<std::int64_t>(window.number)}}));
+    }
+    return thumbnails;
 }
 
 SimNodeId SimDock::makeDisplay(std::size_t screen, Rect frame, const std::vector<Shown>& shown) {
@@ -229,23 +289,43 @@ SimNodeId SimDock::makeDisplay(std::size_t screen, Rect frame, const std::vector
         ids.push_back(window.window);
     }
     const std::vector<Rect> frames = layOut(sizes, thumbnailArea(frame));
+    const bool windowManager = hostedByWindowManager();
     std::vector<AXElement> thumbnails;
     for (std::size_t i = 0; i < frames.size(); ++i) {
         const SimWindow* window = desktop_.window(ids[i]);
-        const SimNodeId node = accessibility.addNode(pid_, {{"AXRole", std::string("AXButton")},
-                                                            {"AXTitle", window->title},
-                                                            {"AXFrame", frames[i]}});
-        treeNodes_.push_back(node);
-        thumbnails.push_back(accessibility.nodeElement(node));
+        std::map<std::string, AXValue> attributes{{"AXTitle", window->title},
+                                                  {"AXFrame", frames[i]}};
+        if (windowManager) {
+            const SimApplication* app = desktop_.application(window->pid);
+            attributes["AXIdentifier"] =
+                (app ? app->bundleIdentifier : std::string()) + std::string(currentSpace);
+            attributes["wid"] = static_cast<std::int64_t>(window->id);
+        }
+        thumbnails.push_back(thumbnailNode(std::move(attributes)));
+        thumbnailNodes_.emplace_back(ids[i], treeNodes_.back());
         thumbnails_.push_back({ids[i], frames[i]});
     }
-    const SimNodeId spaces = accessibility.addNode(pid_, group("mc.spaces", {}));
-    const SimNodeId windows = accessibility.addNode(pid_, group("mc.windows", thumbnails));
-    auto display = group("mc.display",
-                         {accessibility.nodeElement(spaces), accessibility.nodeElement(windows)});
+    const SimNodeId spaces = accessibility.addNode(hostPid(), group("mc.spaces", {}));
+    treeNodes_.push_back(spaces);
+    std::vector<AXElement> children;
+    if (windowManager) {
+        // As macOS 27 lists them: the thumbnails first, other desktops' (shown on the
+        // first display) after them, the desktops' group last.
+        children = std::move(thumbnails);
+        if (screen == 0) {
+            const auto others = otherDesktopThumbnails(frames);
+            children.insert(children.end(), others.begin(), others.end());
+        }
+        children.push_back(accessibility.nodeElement(spaces));
+    } else {
+        const SimNodeId windows = accessibility.addNode(pid_, group("mc.windows", thumbnails));
+        treeNodes_.push_back(windows);
+        children = {accessibility.nodeElement(spaces), accessibility.nodeElement(windows)};
+    }
+    auto display = group("mc.display", std::move(children));
     display["AXFrame"] = frame;
-    const SimNodeId node = accessibility.addNode(pid_, std::move(display));
-    treeNodes_.insert(treeNodes_.end(), {spaces, windows, node});
+    const SimNodeId node = accessibility.addNode(hostPid(), std::move(display));
+    treeNodes_.push_back(node);
     return node;
 }
 
@@ -255,6 +335,7 @@ void SimDock::removeTree() {
         accessibility.removeNode(node);
     treeNodes_.clear();
     displayNodes_.clear();
+    thumbnailNodes_.clear();
     thumbnails_.clear();
     laidOutFrom_.clear();
     laidOutScreens_.clear();
@@ -262,6 +343,7 @@ void SimDock::removeTree() {
     if (isRunning()) {
         accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_)};
     }
+    if (windowManagerPid_ != 0) accessibility.applicationChildren.erase(windowManagerPid_);
 }
 
 void SimDock::publishWindows() {
@@ -274,9 +356,16 @@ void SimDock::publishWindows() {
     if (!isRunning()) return;
     const std::vector<Rect> screens = desktop_.accessibilityScreenFrames();
     std::vector<WindowDescription> own;
-    for (std::size_t i = 0; open_ && i < screens.size(); ++i) {
-        own.push_back({firstMissionControlWindowNumber + static_cast<std::uint32_t>(i), pid_,
-                       std::string(name), std::nullopt, missionControlLayer, screens[i]});
+    for (std::size_t i = 0; i < screens.size(); ++i) {
+        const auto index = static_cast<std::uint32_t>(i);
+        if (open_ && !hostedByWindowManager()) {
+            own.push_back({firstMissionControlWindowNumber + index, pid_, std::string(name),
+                           std::nullopt, missionControlLayer, screens[i]});
+        }
+        if (fullScreenWindowShown_) {
+            own.push_back({firstFullScreenWindowNumber + index, pid_, std::string(name),
+                           std::nullopt, barLayer, screens[i]});
+        }
     }
     const Rect primary = screens.front();
     own.push_back(
@@ -287,7 +376,12 @@ void SimDock::publishWindows() {
 
 std::optional<AXElement> SimDock::hitTest(Point point) {
     if (!open_) return std::nullopt;
-    if (auto thumbnail = thumbnailAt(point)) return windowPartAt(*thumbnail, point);
+    if (auto thumbnail = thumbnailAt(point)) {
+        if (!hostedByWindowManager()) return windowPartAt(*thumbnail, point);
+        for (const auto& [window, node] : thumbnailNodes_) {
+            if (window == thumbnail->window) return desktop_.accessibility().nodeElement(node);
+        }
+    }
     for (std::size_t i = 0; i < laidOutScreens_.size(); ++i) {
         if (laidOutScreens_[i].contains(point)) {
             return desktop_.accessibility().nodeElement(displayNodes_[i]);

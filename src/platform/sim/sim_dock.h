@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/ax_element.h"
@@ -22,20 +25,42 @@ struct SimThumbnail {
     friend bool operator==(const SimThumbnail&, const SimThumbnail&) = default;
 };
 
-// The Dock process and its Mission Control, as the agent sees them: a running application
-// "com.apple.dock"; its bar, a window on layer 20; and while Mission Control is open, one
-// window per screen on layer 18 and the accessibility tree
-//   Dock → "mc" → "mc.display" (one per screen) → "mc.spaces", "mc.windows" → thumbnails
-// with one thumbnail per visible window, laid out in rows like Mission Control does.
-// The Dock answers hit-tests over Mission Control (SimAccessibility::hitTestOverride) and
-// keeps its tree in step with the desktop whenever its application element is read
-// (SimAccessibility::onApplicationRead). An empty desktop has no Dock until launch().
+// A window on another desktop. From macOS 27 WindowManager lists its thumbnail too, over
+// the current desktop's, though the on-screen window list does not show the window.
+struct SimOtherDesktopWindow {
+    std::uint32_t number = 0;  // its window server number ("wid")
+    std::string bundleIdentifier;
+    std::string title;
+};
+
+// The Dock process and its Mission Control, as the agent sees them, in the two generations
+// of macOS (chosen by the desktop's operating system version when Mission Control opens).
+// A running application "com.apple.dock" with its bar, a window on layer 20. Up to macOS 26,
+// while Mission Control is open: one window per screen on layer 18 and the tree
+//   Dock → "mc" → "mc.display" (one per screen) → "mc.spaces", "mc.windows" → thumbnails.
+// From macOS 27: no layer-18 window, but a full-screen Dock window on layer 20 that stays
+// once Mission Control has opened; the Dock keeps an empty "mc" group while it is open,
+// and the tree lives in WindowManager ("com.apple.WindowManager"):
+//   WindowManager → "mc.display" (one per screen) → "mc.spaces", thumbnails
+// each thumbnail a button identified "<bundle id>.space.<n>" with its window's number in
+// "wid", followed by the thumbnails of other desktops' windows, overlapping.
+// One thumbnail per visible window, laid out in rows like Mission Control does.
+// Mission Control answers hit-tests over it (SimAccessibility::hitTestOverride) and keeps
+// its tree in step with the desktop whenever the Dock's or WindowManager's application
+// element is read (SimAccessibility::onApplicationRead). An empty desktop has no Dock
+// until launch().
 class SimDock {
   public:
     static constexpr std::string_view bundleIdentifier = "com.apple.dock";
     static constexpr std::string_view name = "Dock";
     static constexpr std::int64_t barLayer = 20;
     static constexpr std::int64_t missionControlLayer = 18;
+    static constexpr std::string_view windowManagerBundleIdentifier = "com.apple.WindowManager";
+    static constexpr std::string_view windowManagerName = "WindowManager";
+    // The first major version of macOS whose Mission Control lives in WindowManager.
+    static constexpr int firstWindowManagerMajor = 27;
+    // How far other desktops' thumbnails are shifted over the visible ones.
+    static constexpr double otherDesktopOffset = 24;
     // The key that leaves Mission Control when posted.
     static constexpr std::uint16_t escapeKeyCode = 53;
 
@@ -59,6 +84,13 @@ class SimDock {
     bool isRunning() const { return pid_ != 0; }
     // The running Dock's process identifier; 0 when it does not run.
     Pid pid() const { return pid_; }
+    // WindowManager's process identifier; 0 until Mission Control first opened on macOS 27.
+    Pid windowManagerPid() const { return windowManagerPid_; }
+    // Whether the desktop's system keeps Mission Control in WindowManager.
+    bool hostedByWindowManager() const;
+
+    // Windows of other desktops, listed by WindowManager from macOS 27 on.
+    std::vector<SimOtherDesktopWindow> otherDesktop;
 
     // Opens Mission Control on every screen, launching the Dock first if need be.
     void open();
@@ -95,6 +127,11 @@ class SimDock {
     void rebuild(const std::vector<Shown>& shown);
     void removeTree();
     SimNodeId makeDisplay(std::size_t screen, Rect frame, const std::vector<Shown>& shown);
+    std::vector<AXElement> otherDesktopThumbnails(const std::vector<Rect>& visible);
+    AXElement thumbnailNode(std::map<std::string, AXValue> attributes);
+    void setHostChildren(std::vector<AXElement> missionControl);
+    Pid hostPid() const;
+    void launchWindowManager();
     void publishWindows();
     std::optional<AXElement> hitTest(Point point);
     AXElement windowPartAt(const SimThumbnail& thumbnail, Point point);
@@ -102,11 +139,15 @@ class SimDock {
     SimDesktop& desktop_;
     Pid pid_ = 0;
     Pid publishedPid_ = 0;
+    Pid windowManagerPid_ = 0;
     bool open_ = false;
+    // macOS 27's full-screen Dock window, there from the first opening on.
+    bool fullScreenWindowShown_ = false;
     SimNodeId barNode_ = 0;
     SimNodeId missionControlNode_ = 0;
     std::vector<SimNodeId> treeNodes_;
     std::vector<SimNodeId> displayNodes_;
+    std::vector<std::pair<SimWindowId, SimNodeId>> thumbnailNodes_;
     std::vector<Shown> laidOutFrom_;
     std::vector<Rect> laidOutScreens_;
     std::vector<SimThumbnail> thumbnails_;

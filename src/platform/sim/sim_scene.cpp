@@ -83,6 +83,9 @@ void populateDefaultScene(SimDesktop& desktop) {
         }
         desktop.installations().install(std::move(installed));
     }
+    // Windows of a second desktop, whose thumbnails WindowManager lists over these.
+    desktop.dock().otherDesktop = {{0x9001, "com.apple.dt.Xcode", "Vistrel — main.mm"},
+                                   {0x9002, "com.apple.MobileSMS", "Messages"}};
 }
 
 }  // namespace vistrel

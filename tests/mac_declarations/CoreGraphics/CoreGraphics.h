@@ -7,6 +7,7 @@
 #include <CoreGraphics/CGContext.h>
 #include <CoreGraphics/CGDataProvider.h>
 #include <CoreGraphics/CGEvent.h>
+#include <CoreGraphics/CGEventSource.h>
 #include <CoreGraphics/CGGeometry.h>
 #include <CoreGraphics/CGImage.h>
 #include <CoreGraphics/CGWindow.h>

@@ -4,3 +4,4 @@
 #include <dispatch/queue.h>
 #include <dispatch/semaphore.h>
 #include <dispatch/time.h>
+#include <dispatch/dispatch_main.h>

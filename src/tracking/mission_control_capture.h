@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace vistrel {
+
+// Records how a real Mac shows Mission Control, so the simulator can learn it: started with
+// "--capture-mission-control FILE" (and "--with-titles" to keep titles), the agent waits up
+// to a minute for Mission Control to open, then writes one JSON file with the system's
+// version, the Dock's and WindowManager's accessibility subtrees under their Mission Control
+// groups, and the on-screen window list (no window names). The waiting runs as delayed work
+// on a queue of its own, so no thread blocks.
+namespace MissionControlCapture {
+
+inline constexpr std::string_view flag = "--capture-mission-control";
+inline constexpr std::string_view titlesFlag = "--with-titles";
+inline constexpr std::string_view queueLabel = "com.quillmarsh.vistrel.capture";
+inline constexpr double waitLimit = 60;
+inline constexpr double pollInterval = 0.25;
+// A runaway tree is cut off rather than walked for ever.
+inline constexpr int deepestLevel = 8;
+inline constexpr std::size_t mostNodes = 4000;
+
+struct Request {
+    std::string path;  // empty when the flag came without a file
+    bool withTitles = false;
+};
+
+enum class Outcome { written, neverOpened, notWritten, noFile };
+
+// The capture asked for on the command line, if any.
+std::optional<Request> requested(const std::vector<std::string>& arguments);
+
+// One look at Mission Control as it is now.
+nlohmann::json snapshot(bool withTitles);
+
+// Waits for Mission Control, writes the file, and calls `done` on the main queue.
+void start(const Request& request, std::function<void(Outcome)> done);
+
+// What to tell the user about an outcome.
+std::string message(Outcome outcome, const Request& request);
+
+}  // namespace MissionControlCapture
+
+}  // namespace vistrel

@@ -1,0 +1,172 @@
+#include "tracking/mission_control_capture.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+
+#include "platform/sim/sim_capture_scene.h"
+#include "platform/sim/sim_scene.h"
+#include "support/sim_test.h"
+#include "support/temp_dir.h"
+#include "tracking/ax.h"
+#include "tracking/thumbnail_reader.h"
+
+namespace vistrel {
+namespace {
+
+using Outcome = MissionControlCapture::Outcome;
+using nlohmann::json;
+
+TEST(MissionControlCaptureArguments, FlagWithAFileAsksForACaptureWithoutTitles) {
+    const auto request =
+        MissionControlCapture::requested({"Vistrel", "--capture-mission-control", "mc.json"});
+    ASSERT_TRUE(request);
+    EXPECT_EQ(request->path, "mc.json");
+    EXPECT_FALSE(request->withTitles);
+}
+
+TEST(MissionControlCaptureArguments, WithTitlesMayComeBeforeOrAfter) {
+    EXPECT_TRUE(MissionControlCapture::requested(
+                    {"Vistrel", "--capture-mission-control", "a.json", "--with-titles"})
+                    ->withTitles);
+    EXPECT_TRUE(MissionControlCapture::requested(
+                    {"Vistrel", "--with-titles", "--capture-mission-control", "a.json"})
+                    ->withTitles);
+}
+
+TEST(MissionControlCaptureArguments, NoFlagNoCaptureAndAMissingFileIsAnEmptyPath) {
+    EXPECT_FALSE(MissionControlCapture::requested({"Vistrel", "--diagnose"}));
+    EXPECT_EQ(MissionControlCapture::requested({"Vistrel", "--capture-mission-control"})->path, "");
+    EXPECT_EQ(
+        MissionControlCapture::requested({"Vistrel", "--capture-mission-control", "--with-titles"})
+            ->path,
+        "");
+}
+
+class MissionControlCaptureTest : public testing::SimTest {
+  protected:
+    MissionControlCaptureTest() {
+        desktop.systemInfo().version = {27, 0, 1};
+        populateDefaultScene(desktop);
+        request.path = (folder.path() / "mc.json").string();
+    }
+
+    void start() {
+        MissionControlCapture::start(request, [this](Outcome result) { outcome = result; });
+    }
+
+    // Runs a capture with Mission Control open: it is written without waiting.
+    void captureOpen() {
+        desktop.dock().open();
+        start();
+        desktop.executor().runUntilIdle();
+    }
+
+    json written() { return json::parse(testing::readFile(request.path)); }
+
+    testing::TempDir folder;
+    MissionControlCapture::Request request;
+    std::optional<Outcome> outcome;
+};
+
+TEST_F(MissionControlCaptureTest, OpenMissionControlIsWrittenAtOnce) {
+    captureOpen();
+    ASSERT_EQ(outcome, Outcome::written);
+    const json capture = written();
+    EXPECT_EQ(capture["system"], json({{"major", 27}, {"minor", 0}, {"patch", 1}}));
+    EXPECT_EQ(capture["missionControlHost"], "WindowManager");
+    EXPECT_EQ(capture["dock"]["groups"].size(), 1u);
+    EXPECT_EQ(capture["dock"]["groups"][0]["identifier"], "mc");
+    EXPECT_EQ(capture["windowManager"]["pid"], desktop.dock().windowManagerPid());
+    EXPECT_EQ(MissionControlCapture::message(*outcome, request),
+              "mission control: capture written to " + request.path);
+}
+
+TEST_F(MissionControlCaptureTest, WaitsForMissionControlToOpen) {
+    start();
+    desktop.executor().advance(20);
+    EXPECT_FALSE(outcome);
+    EXPECT_FALSE(std::filesystem::exists(request.path));
+    desktop.dock().open();
+    desktop.executor().advance(MissionControlCapture::pollInterval);
+    EXPECT_EQ(outcome, Outcome::written);
+}
+
+TEST_F(MissionControlCaptureTest, GivesUpAfterAMinuteWritingNothing) {
+    start();
+    desktop.executor().advance(59);
+    EXPECT_FALSE(outcome);
+    desktop.executor().advance(1.5);
+    EXPECT_EQ(outcome, Outcome::neverOpened);
+    EXPECT_FALSE(std::filesystem::exists(request.path));
+    EXPECT_EQ(MissionControlCapture::message(*outcome, request),
+              "mission control: did not open within a minute, nothing written");
+}
+
+TEST_F(MissionControlCaptureTest, TitlesAndWindowNamesStayOutUnlessAskedFor) {
+    captureOpen();
+    const std::string text = testing::readFile(request.path);
+    EXPECT_EQ(text.find("\"title\""), std::string::npos);
+    EXPECT_EQ(text.find("Start Page"), std::string::npos);
+    EXPECT_EQ(text.find("\"name\""), std::string::npos);
+
+    request.withTitles = true;
+    start();
+    desktop.executor().runUntilIdle();
+    EXPECT_NE(testing::readFile(request.path).find("\"title\": \"Start Page\""), std::string::npos);
+    EXPECT_EQ(testing::readFile(request.path).find("\"name\""), std::string::npos);
+}
+
+TEST_F(MissionControlCaptureTest, WindowListKeepsOwnerProcessLayerBoundsAndNumber) {
+    captureOpen();
+    const json windows = written()["windows"];
+    const auto listed = desktop.windowServer().windowList(WindowListOption::onScreenOnly);
+    ASSERT_EQ(windows.size(), listed->size());
+    const json& last = windows.back();
+    EXPECT_EQ(last["number"], *listed->back().number);
+    EXPECT_EQ(last["pid"], *listed->back().ownerPid);
+    EXPECT_EQ(last["owner"], *listed->back().ownerName);
+    EXPECT_EQ(last["layer"], 0);
+    const Rect bounds = *listed->back().bounds;
+    EXPECT_EQ(last["bounds"], json({bounds.x, bounds.y, bounds.width, bounds.height}));
+}
+
+TEST_F(MissionControlCaptureTest, UnwritableFileOrNoFileIsSaidPlainly) {
+    desktop.dock().open();
+    request.path = (folder.path() / "missing" / "mc.json").string();
+    start();
+    desktop.executor().runUntilIdle();
+    EXPECT_EQ(outcome, Outcome::notWritten);
+    EXPECT_EQ(MissionControlCapture::message(*outcome, request),
+              "mission control: could not write " + request.path);
+
+    request.path.clear();
+    start();
+    desktop.executor().runUntilIdle();
+    EXPECT_EQ(outcome, Outcome::noFile);
+    EXPECT_EQ(MissionControlCapture::message(*outcome, request),
+              "usage: Vistrel --capture-mission-control FILE [--with-titles]");
+}
+
+// A capture of the simulated Mac, loaded into a fresh desktop, shows the same Mission
+// Control: what the simulator learns from a real capture is what the capture recorded.
+TEST_F(MissionControlCaptureTest, CaptureReplaysAsTheSameMissionControl) {
+    captureOpen();
+    const std::vector<Rect> frames = ThumbnailReader().frames();
+    ASSERT_FALSE(frames.empty());
+
+    SimDesktop replay;
+    ScopedPlatform installed(replay);
+    std::string error;
+    ASSERT_TRUE(loadCapturedScene(replay, testing::readFile(request.path), error)) << error;
+    EXPECT_EQ(ThumbnailReader().frames(), frames);
+    for (const Rect& frame : frames) {
+        const auto hit = AX::windowAt(frame.mid());
+        ASSERT_TRUE(hit);
+        EXPECT_TRUE(AX::frame(hit->window));
+    }
+}
+
+}  // namespace
+}  // namespace vistrel
