@@ -14,8 +14,8 @@ VISTREL_EXTERN_C_END
 
 @interface NSAppearance (VistrelMatching)
 // Nil when none of the names matches.
-- (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray<NSAppearanceName>*)appearances
-    VISTREL_MACOS(10.14);
+- (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:
+    (NSArray<NSAppearanceName>*)appearances VISTREL_MACOS(10.14);
 @end
 
 @interface NSApplication (VistrelAppearance)

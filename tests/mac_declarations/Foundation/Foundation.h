@@ -13,9 +13,9 @@
 #include <Foundation/NSEnumerator.h>
 #include <Foundation/NSError.h>
 #include <Foundation/NSFileManager.h>
-#include <Foundation/NSKeyValueObserving.h>
 #include <Foundation/NSFileManagerTrash.h>
 #include <Foundation/NSGeometry.h>
+#include <Foundation/NSKeyValueObserving.h>
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSObjCRuntime.h>
 #include <Foundation/NSObject.h>

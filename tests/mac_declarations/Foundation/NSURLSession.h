@@ -24,10 +24,9 @@ VISTREL_MACOS(10.9)
 @property(class, readonly, strong) NSURLSession* sharedSession;
 // The handler runs on the session's delegate queue, never on the caller's thread; the
 // request's own body is ignored in favour of the file's bytes.
-- (NSURLSessionUploadTask*)uploadTaskWithRequest:(NSURLRequest*)request
-                                        fromFile:(NSURL*)fileURL
-                               completionHandler:
-                                   (void (^)(NSData* _Nullable data,
-                                             NSURLResponse* _Nullable response,
-                                             NSError* _Nullable error))completionHandler;
+- (NSURLSessionUploadTask*)
+    uploadTaskWithRequest:(NSURLRequest*)request
+                 fromFile:(NSURL*)fileURL
+        completionHandler:(void (^)(NSData* _Nullable data, NSURLResponse* _Nullable response,
+                                    NSError* _Nullable error))completionHandler;
 @end
