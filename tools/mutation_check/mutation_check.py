@@ -14,6 +14,7 @@ It exits 1 when a mutant survived or could not be applied, 0 when every mutant w
 
 import argparse
 import pathlib
+import signal
 import subprocess
 import sys
 
@@ -89,6 +90,8 @@ def check(mutant, build_dir, log):
 
 
 def main():
+    # A terminated run still puts the mutated file back (the finally in check()).
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("mutation check terminated"))
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--build-dir", default="build")
     parser.add_argument("--only", help="run the mutants whose name contains this text")
