@@ -15,9 +15,11 @@ void LayoutsScenario::unfoldShelf() {
 void LayoutsScenario::clickCell(ShelfLayout::Item item) {
     for (const auto& cell : layouts().layout()->cells) {
         if (cell.item != item) continue;
-        move(cell.rect.mid());
-        press(cell.rect.mid());
-        release(cell.rect.mid());
+        // The click can lay the shelf out anew, so the cell is not read after it starts.
+        const Point centre = cell.rect.mid();
+        move(centre);
+        press(centre);
+        release(centre);
         return;
     }
     ADD_FAILURE() << "no such cell on the shelf";
