@@ -21,9 +21,11 @@ test: build
 	@cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
 
 ifeq ($(shell uname),Darwin)
-# On a Mac: the agent itself, as an app bundle.
+# On a Mac: the agent itself, as an app bundle, signed with the development identity when
+# there is one (see tools/mac/make_dev_identity.sh) so that it keeps its Accessibility grant.
 run: configure
 	@cmake --build $(BUILD_DIR) --target Vistrel -j $(JOBS)
+	@tools/mac/sign_app.sh $(BUILD_DIR)/Vistrel.app
 	@open $(BUILD_DIR)/Vistrel.app
 else
 run: build
