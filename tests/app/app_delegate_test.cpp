@@ -167,6 +167,17 @@ TEST_F(AppDelegateTest, UpdatesStartAfterTheStartLine) {
     EXPECT_TRUE(delegate.statusMenu()->updater.has_value());
 }
 
+TEST_F(AppDelegateTest, TheCheckForUpdatesCommandReachesTheRunningUpdater) {
+    desktop.infoDictionary().values[std::string(Updates::publicKeyInfoKey)] =
+        std::string(Updates::publicKeyLength, 'k');
+    launch();
+    ASSERT_EQ(desktop.updates().record.checks, 0);
+    desktop.notifications().post(std::string(Shared::Command::name),
+                                 DefaultsValue::Dictionary{{"command", "checkForUpdates"}});
+    desktop.executor().runUntilIdle();
+    EXPECT_EQ(desktop.updates().record.checks, 1);
+}
+
 TEST_F(AppDelegateTest, WithoutAnUpdateKeyTheMenuHasNoUpdater) {
     launch();
     ASSERT_NE(delegate.statusMenu(), nullptr);

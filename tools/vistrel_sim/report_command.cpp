@@ -1,5 +1,3 @@
-#include <cairo.h>
-
 #include <cctype>
 #include <deque>
 #include <filesystem>
@@ -10,12 +8,11 @@
 
 #include "diagnostics/report_problem.h"
 #include "diagnostics/report_service.h"
-#include "platform/sim/cairo_alert_painter.h"
 #include "platform/sim/sim_report_service.h"
-#include "platform/sim/sim_screen_renderer.h"
 #include "platform/sim/sim_zip_reader.h"
 #include "session_rig.h"
 #include "sim_command.h"
+#include "sim_pictures.h"
 
 namespace vistrel {
 
@@ -163,18 +160,10 @@ std::string ReportSession::nextAlertPicture() {
 
 void ReportSession::picture(std::string_view name, const AlertContent& alert,
                             const std::optional<SimReportFields>& fields) {
-    SimDesktop& desktop = rig_.desktop();
-    SimScreenScene scene;
-    CairoSurface surface = SimScreenRenderer(desktop).render(scene);
-    CairoFonts fonts;
-    cairo_t* cr = cairo_create(surface.get());
-    cairo_scale(cr, scene.scale, scene.scale);
-    CairoAlertPainter(cr, fonts, simPrimaryScreen).paint(alert, fields);
-    cairo_destroy(cr);
     const fs::path path =
         context_.outputDirectory / (std::string(sessionName) + "-" + std::to_string(++pictures_) +
                                     "-" + std::string(name) + std::string(pictureExtension));
-    if (surface.writePng(path)) {
+    if (writeAlertPicture(rig_.desktop(), alert, fields, path)) {
         context_.out << "  wrote " << path.string() << "\n";
     } else {
         context_.out << "  could not write " << path.string() << "\n";

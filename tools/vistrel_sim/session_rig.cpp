@@ -82,13 +82,15 @@ ScopedHome::~ScopedHome() {
     }
 }
 
-SessionRig::SessionRig(SimCommandContext& context, std::string_view name)
+SessionRig::SessionRig(SimCommandContext& context, std::string_view name, Start start)
     : context_(context),
       name_(name),
       home_(context.outputDirectory / (name_ + std::string(homeSuffix))) {
     populateDefaultScene(desktop_);
-    engine_ = Engine::make();
-    engine_->start();
+    if (start == Start::nothing) return;
+    ownEngine_ = Engine::make();
+    ownEngine_->start();
+    engine_ = ownEngine_.get();
     desktop_.executor().advance(MissionControlDetector::startDelay);
 }
 

@@ -76,7 +76,11 @@ class SessionRig {
         std::function<bool()> run;
     };
 
-    SessionRig(SimCommandContext& context, std::string_view name);
+    // Whether the rig starts an engine of its own, or the session launches the whole agent
+    // and lets the rig watch the engine the agent started.
+    enum class Start { engine, nothing };
+
+    SessionRig(SimCommandContext& context, std::string_view name, Start start = Start::engine);
 
     // Plays the steps in order, each after the user's pause and followed by its picture
     // (with `hovered()`'s thumbnail ringed); 1 when a step fails, else 0.
@@ -85,6 +89,8 @@ class SessionRig {
 
     SimDesktop& desktop() { return desktop_; }
     Engine& engine() { return *engine_; }
+    // The engine Mission Control is opened and closed for; the rig's own by default.
+    void watch(Engine& engine) { engine_ = &engine; }
     std::ostream& out() { return context_.out; }
     std::filesystem::path home() const;
 
@@ -114,7 +120,8 @@ class SessionRig {
     SimDesktop desktop_;
     EchoingLog log_{desktop_, context_.out};
     EchoingPlatform installed_{desktop_, log_};
-    std::shared_ptr<Engine> engine_;
+    std::shared_ptr<Engine> ownEngine_;
+    Engine* engine_ = nullptr;
     std::optional<Point> pointer_;
 };
 

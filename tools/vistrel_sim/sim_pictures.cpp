@@ -1,6 +1,11 @@
 #include "sim_pictures.h"
 
+#include <cairo.h>
+
 #include <string>
+
+#include "platform/sim/cairo_fonts.h"
+#include "platform/sim/sim_scene.h"
 
 namespace vistrel {
 
@@ -21,6 +26,19 @@ std::optional<SimThumbnail> largestThumbnail(SimDesktop& desktop) {
         if (!largest || thumbnail.frame.area() > largest->frame.area()) largest = thumbnail;
     }
     return largest;
+}
+
+bool writeAlertPicture(SimDesktop& desktop, const AlertContent& alert,
+                       const std::optional<SimReportFields>& fields,
+                       const std::filesystem::path& path) {
+    SimScreenScene scene;
+    CairoSurface surface = SimScreenRenderer(desktop).render(scene);
+    CairoFonts fonts;
+    cairo_t* cr = cairo_create(surface.get());
+    cairo_scale(cr, scene.scale, scene.scale);
+    CairoAlertPainter(cr, fonts, simPrimaryScreen).paint(alert, fields);
+    cairo_destroy(cr);
+    return surface.writePng(path);
 }
 
 }  // namespace vistrel
