@@ -23,20 +23,28 @@ constexpr std::array<HotkeyEntry, 7> table = {{
     {Hotkey::kill, "kill", KeyCode::q, ModifierFlag::command},
 }};
 
-const HotkeyEntry& entry(Hotkey hotkey) { return table[static_cast<std::size_t>(hotkey)]; }
+const HotkeyEntry& entry(Hotkey hotkey) {
+    return table[static_cast<std::size_t>(hotkey)];
+}
 
 }  // namespace
 
-std::string_view name(Hotkey hotkey) { return entry(hotkey).name; }
+std::string_view name(Hotkey hotkey) {
+    return entry(hotkey).name;
+}
 
 std::optional<Hotkey> hotkeyFromRaw(int raw) {
     if (raw < 0 || raw >= static_cast<int>(table.size())) return std::nullopt;
     return static_cast<Hotkey>(raw);
 }
 
-std::int64_t keyCode(Hotkey hotkey) { return entry(hotkey).keyCode; }
+std::int64_t keyCode(Hotkey hotkey) {
+    return entry(hotkey).keyCode;
+}
 
-std::uint64_t modifiers(Hotkey hotkey) { return entry(hotkey).modifiers; }
+std::uint64_t modifiers(Hotkey hotkey) {
+    return entry(hotkey).modifiers;
+}
 
 std::optional<Hotkey> matchHotkey(std::int64_t code, std::uint64_t flags) {
     const std::uint64_t held = flags & ModifierFlag::relevant;

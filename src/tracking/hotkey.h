@@ -32,7 +32,7 @@ inline constexpr std::int64_t escape = 53;
 enum class Hotkey : int { close = 0, closeAll, minimize, maximize, hide, hideOthers, kill };
 
 inline constexpr std::array<Hotkey, 7> allHotkeys = {
-    Hotkey::close, Hotkey::closeAll, Hotkey::minimize, Hotkey::maximize,
+    Hotkey::close, Hotkey::closeAll,   Hotkey::minimize, Hotkey::maximize,
     Hotkey::hide,  Hotkey::hideOthers, Hotkey::kill};
 
 // The case name, as it appears in preference keys and log lines ("closeAll").
