@@ -28,14 +28,15 @@ enum class ChoiceStyle { popUp, segmented };
 
 // What a picture control shows; drawn by the views' own code.
 enum class PictureKind {
-    welcome,       // the overlay's buttons over a window thumbnail
-    themePreview,  // the chosen theme's buttons at the chosen size
-    appIcon        // the app's mark, for the welcome guide and the About page
+    welcome,        // the overlay's buttons over a window thumbnail
+    themePreview,   // the chosen theme's buttons at the chosen size
+    appIcon,        // the app's mark, for the welcome guide and the About page
+    buttonsPreview  // the buttons the user turned on, over a thumbnail
 };
 
 struct ChoiceOption {
-    std::string value;  // what is stored
-    std::string title;  // what the user reads
+    std::string value{};  // what is stored
+    std::string title{};  // what the user reads
 
     friend bool operator==(const ChoiceOption&, const ChoiceOption&) = default;
 };
@@ -44,7 +45,7 @@ struct SliderRange {
     double minimum = 0;
     double maximum = 1;
     double step = 1;
-    std::string unit;  // shown after the value ("pt")
+    std::string unit{};  // shown after the value ("pt")
 
     friend bool operator==(const SliderRange&, const SliderRange&) = default;
 };
@@ -52,7 +53,7 @@ struct SliderRange {
 // The live state a status control shows: its sentence and whether all is well (a green
 // mark) or the user has something to do (an orange one).
 struct StatusState {
-    std::string text;
+    std::string text{};
     bool good = false;
 
     friend bool operator==(const StatusState&, const StatusState&) = default;
@@ -61,28 +62,28 @@ struct StatusState {
 // One control of a section. Only the fields of its kind are meaningful; the model keeps
 // what it is bound to (a preference key, a command) to itself.
 struct Control {
-    std::string id;  // stable across runs, unique in the window ("buttons.theme")
+    std::string id{};  // stable across runs, unique in the window ("buttons.theme")
     ControlKind kind = ControlKind::text;
-    std::string label;
-    std::string help;  // a footnote under the control; may be empty
+    std::string label{};
+    std::string help{};  // a footnote under the control; may be empty
 
-    std::vector<ChoiceOption> options;             // choice
+    std::vector<ChoiceOption> options{};           // choice
     ChoiceStyle choiceStyle = ChoiceStyle::popUp;  // choice
-    SliderRange range;                             // slider
-    std::string buttonTitle;                       // button ("Open System Settings…")
-    std::string value;                             // text
-    std::string url;                               // link
+    SliderRange range{};                           // slider
+    std::string buttonTitle{};                     // button ("Open System Settings…")
+    std::string value{};                           // text
+    std::string url{};                             // link
     PictureKind picture = PictureKind::welcome;    // picture
-    Size pictureSize;                              // picture, in points
-    std::string keys;                              // shortcutKeys ("⌘W")
+    Size pictureSize{};                            // picture, in points
+    std::string keys{};                            // shortcutKeys ("⌘W")
 };
 
 // A group of controls drawn as one rounded box, with an optional title above it and an
 // optional footnote below it.
 struct Section {
-    std::string title;
-    std::string footnote;
-    std::vector<Control> controls;
+    std::string title{};
+    std::string footnote{};
+    std::vector<Control> controls{};
 };
 
 // The pages of the sidebar and the steps of the welcome guide.
@@ -101,10 +102,10 @@ enum class PageId {
 // One sidebar item (title and symbol) with its content, or one step of the welcome guide.
 struct Page {
     PageId id = PageId::general;
-    std::string title;
-    std::string symbol;    // an SF Symbols name ("gearshape"); the simulator draws its own glyph
-    std::string subtitle;  // welcome steps: the sentence under the title
-    std::vector<Section> sections;
+    std::string title{};
+    std::string symbol{};    // an SF Symbols name ("gearshape"); the simulator draws its own glyph
+    std::string subtitle{};  // welcome steps: the sentence under the title
+    std::vector<Section> sections{};
 };
 
 }  // namespace vistrel

@@ -42,6 +42,9 @@ class SettingsModel {
     enum class Mode { settings, welcome };
     using Observer = std::function<void()>;
 
+    // The Settings app's own bundle identifier. It is not the domain's, so the app reaches
+    // the shared domain as a suite.
+    static constexpr std::string_view bundleIdentifier = "com.quillmarsh.vistrel.settings";
     // How often status keys are read again while a page that shows them is visible.
     static constexpr double statusRefreshInterval = 1.0;
 
@@ -128,6 +131,12 @@ class SettingsModel {
 
   private:
     const ControlBinding* binding(std::string_view id) const;
+    bool onLastStep() const;
+    double clamped(const Control& slider, double value) const;
+    // What shows changed: the status refresh follows the page, observers redraw.
+    void shown();
+    // Keeps a layout edit's message and tells observers; answers `ok`.
+    bool edited(bool ok, std::string message);
     void changed();
     void scheduleRefresh();
     void refreshStatus();
@@ -148,6 +157,8 @@ class SettingsModel {
     std::unique_ptr<Timer> refreshTimer_;
     std::map<std::uint64_t, Observer> observers_;
     std::uint64_t nextToken_ = 1;
+    // The refresh timer holds this weakly instead of the model.
+    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 };
 
 }  // namespace vistrel
