@@ -4,6 +4,51 @@
 
 namespace vistrel {
 
+namespace {
+
+// A status key reads false when missing or not a Boolean: the agent has not said yet.
+bool statusFlag(DefaultsStore& store, std::string_view key) {
+    return store.object(std::string(key)).boolean().value_or(false);
+}
+
+ControlBinding launchAtLogin() {
+    // The agent owns the login item: the switch shows what the agent published and asks the
+    // agent to change it.
+    ControlBinding binding = Bind::flag(PreferenceKey::agentLaunchAtLogin, false);
+    binding.writes = false;
+    binding.command = CommandChannel::Command::setLaunchAtLogin;
+    binding.sendsValue = true;
+    return binding;
+}
+
+ControlBinding accessibilityStatus() {
+    ControlBinding binding;
+    binding.status = [](DefaultsStore& store) {
+        if (statusFlag(store, PreferenceKey::agentAccessibilityTrusted)) {
+            return StatusState{"Vistrel can act on windows.", true};
+        }
+        return StatusState{"Vistrel needs Accessibility access to act on windows.", false};
+    };
+    return binding;
+}
+
+ControlBinding loginStatus() {
+    ControlBinding binding;
+    binding.status = [](DefaultsStore& store) {
+        if (statusFlag(store, PreferenceKey::agentLaunchAtLoginNeedsApproval)) {
+            return StatusState{"Needs your approval in System Settings › General › Login Items.",
+                               false};
+        }
+        if (statusFlag(store, PreferenceKey::agentLaunchAtLogin)) {
+            return StatusState{"Vistrel opens when you log in.", true};
+        }
+        return StatusState{"Vistrel opens only when you start it.", true};
+    };
+    return binding;
+}
+
+}  // namespace
+
 ControlSpec::ControlSpec(ControlKind kind, std::string id, std::string label) {
     control_.kind = kind;
     control_.id = std::move(id);
@@ -64,6 +109,21 @@ PageBuilder& PageBuilder::add(Control control, ControlBinding binding) {
     return *this;
 }
 
+PageBuilder& PageBuilder::accessibilityRows(const std::string& prefix) {
+    return add(ControlSpec(ControlKind::status, prefix + ".accessibility", "Access"),
+               accessibilityStatus())
+        .add(ControlSpec(ControlKind::button, prefix + ".requestAccessibility", "Permission")
+                 .buttonTitle("Open System Settings…"),
+             Bind::command(CommandChannel::Command::requestAccessibility));
+}
+
+PageBuilder& PageBuilder::loginRows(const std::string& prefix) {
+    return add(ControlSpec(ControlKind::toggle, prefix + ".launchAtLogin", "Open Vistrel at login"),
+               launchAtLogin())
+        .add(ControlSpec(ControlKind::status, prefix + ".loginStatus", "Login item"),
+             loginStatus());
+}
+
 SettingsContent SettingsContent::make(const std::string& version) {
     SettingsContent content;
     addGeneralPage(content);
@@ -76,15 +136,6 @@ SettingsContent SettingsContent::make(const std::string& version) {
 }
 
 namespace Bind {
-
-namespace {
-
-// A status key reads false when missing or not a Boolean: the agent has not said yet.
-bool statusFlag(DefaultsStore& store, std::string_view key) {
-    return store.object(std::string(key)).boolean().value_or(false);
-}
-
-}  // namespace
 
 ControlBinding flag(std::string_view key, bool fallback) {
     ControlBinding binding;
@@ -102,45 +153,9 @@ ControlBinding invertedPlainFlag(std::string_view key) {
     return binding;
 }
 
-ControlBinding launchAtLogin() {
-    // The agent owns the login item: the switch shows what the agent published and asks the
-    // agent to change it.
-    ControlBinding binding = flag(PreferenceKey::agentLaunchAtLogin, false);
-    binding.writes = false;
-    binding.command = CommandChannel::Command::setLaunchAtLogin;
-    binding.sendsValue = true;
-    return binding;
-}
-
 ControlBinding command(CommandChannel::Command command) {
     ControlBinding binding;
     binding.command = command;
-    return binding;
-}
-
-ControlBinding accessibilityStatus() {
-    ControlBinding binding;
-    binding.status = [](DefaultsStore& store) {
-        if (statusFlag(store, PreferenceKey::agentAccessibilityTrusted)) {
-            return StatusState{"Vistrel can act on windows.", true};
-        }
-        return StatusState{"Vistrel needs Accessibility access to act on windows.", false};
-    };
-    return binding;
-}
-
-ControlBinding loginStatus() {
-    ControlBinding binding;
-    binding.status = [](DefaultsStore& store) {
-        if (statusFlag(store, PreferenceKey::agentLaunchAtLoginNeedsApproval)) {
-            return StatusState{"Needs your approval in System Settings › General › Login Items.",
-                               false};
-        }
-        if (statusFlag(store, PreferenceKey::agentLaunchAtLogin)) {
-            return StatusState{"Vistrel opens when you log in.", true};
-        }
-        return StatusState{"Vistrel opens only when you start it.", true};
-    };
     return binding;
 }
 

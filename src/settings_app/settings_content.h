@@ -51,6 +51,12 @@ class PageBuilder {
     // Starts a new section; the controls added next go into it.
     PageBuilder& section(std::string title = {}, std::string footnote = {});
     PageBuilder& add(Control control, ControlBinding binding = {});
+    // The Accessibility grant's live state and the button that asks the agent for the
+    // system's prompt: "<prefix>.accessibility" and "<prefix>.requestAccessibility".
+    PageBuilder& accessibilityRows(const std::string& prefix);
+    // The switch for opening at login and the login item's live state:
+    // "<prefix>.launchAtLogin" and "<prefix>.loginStatus".
+    PageBuilder& loginRows(const std::string& prefix);
 
   private:
     Page& page_;
@@ -65,19 +71,14 @@ void addLayoutsPage(SettingsContent& content);
 void addAboutPage(SettingsContent& content, const std::string& version);
 void addWelcomeSteps(SettingsContent& content);
 
-// Bindings shared by pages and welcome steps.
+// Bindings the pages share.
 namespace Bind {
 // A Boolean key with a default for missing or mistyped values.
 ControlBinding flag(std::string_view key, bool fallback);
 // A Boolean key read with the plain getter (false when missing), shown negated.
 ControlBinding invertedPlainFlag(std::string_view key);
-// The login item: shows "agent.launchAtLogin", a change posts "setLaunchAtLogin".
-ControlBinding launchAtLogin();
 // A button posting a command.
 ControlBinding command(CommandChannel::Command command);
-// The Accessibility grant and the login item's approval, from the agent's status keys.
-ControlBinding accessibilityStatus();
-ControlBinding loginStatus();
 }  // namespace Bind
 
 }  // namespace vistrel

@@ -54,18 +54,11 @@ void addGeneralPage(SettingsContent& content) {
                  .help("While it is hidden, open Vistrel again from the Applications folder to "
                        "bring it back."),
              menuBarIcon)
-        .add(ControlSpec(ControlKind::toggle, "general.launchAtLogin", "Open Vistrel at login"),
-             Bind::launchAtLogin())
-        .add(ControlSpec(ControlKind::status, "general.loginStatus", "Login item"),
-             Bind::loginStatus())
+        .loginRows("general")
         .section("Accessibility",
                  "Vistrel reads Mission Control and closes, minimizes and moves windows "
                  "through Accessibility.")
-        .add(ControlSpec(ControlKind::status, "general.accessibility", "Access"),
-             Bind::accessibilityStatus())
-        .add(ControlSpec(ControlKind::button, "general.requestAccessibility", "Permission")
-                 .buttonTitle("Open System Settings…"),
-             Bind::command(Command::requestAccessibility))
+        .accessibilityRows("general")
         .section("Windows")
         .add(ControlSpec(ControlKind::choice, "general.maximizeMode", "Maximize a window by")
                  .help("What the maximize button and Command-F do in Mission Control.")

@@ -39,19 +39,12 @@ void addWelcomeSteps(SettingsContent& content) {
         .section({},
                  "Turn Vistrel on in Privacy & Security › Accessibility. This guide moves on by "
                  "itself once access is allowed.")
-        .add(ControlSpec(ControlKind::status, "welcome.accessibility", "Access"),
-             Bind::accessibilityStatus())
-        .add(ControlSpec(ControlKind::button, "welcome.requestAccessibility", "Permission")
-                 .buttonTitle("Open System Settings…"),
-             Bind::command(CommandChannel::Command::requestAccessibility));
+        .accessibilityRows("welcome");
 
     startStep(content, PageId::login, "Open at Login", "power",
               "Vistrel waits in the menu bar and is ready whenever Mission Control opens.")
         .section()
-        .add(ControlSpec(ControlKind::toggle, "welcome.launchAtLogin", "Open Vistrel at login"),
-             Bind::launchAtLogin())
-        .add(ControlSpec(ControlKind::status, "welcome.loginStatus", "Login item"),
-             Bind::loginStatus());
+        .loginRows("welcome");
 
     startStep(content, PageId::ready, "You Are All Set", "checkmark.circle",
               "Open Mission Control and point at a window.")
