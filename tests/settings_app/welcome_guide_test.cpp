@@ -112,6 +112,16 @@ TEST_F(WelcomeGuideTest, AGrantGivenBeforeTheStepDoesNotSkipIt) {
     EXPECT_TRUE(model->status("welcome.accessibility").good);
 }
 
+TEST_F(WelcomeGuideTest, AnotherStatusChangeOnTheAccessibilityStepDoesNotMoveOn) {
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, true);
+    const auto model = launch({"--onboarding"});
+    model->setVisible(true);
+    model->goOn();
+    agentPublishes(PreferenceKey::agentLaunchAtLogin, true);
+    wait(2);
+    EXPECT_EQ(model->currentPage().id, PageId::accessibility);
+}
+
 TEST_F(WelcomeGuideTest, AGrantOnAnotherStepOnlyRefreshesIt) {
     const auto model = launch({"--onboarding"});
     model->setVisible(true);
