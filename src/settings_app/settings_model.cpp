@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 
 #include "platform/platform.h"
 #include "settings/preference_key.h"
@@ -15,7 +16,7 @@ namespace vistrel {
 
 namespace {
 
-// The agent's status keys: the pages that show one are re-read while visible.
+// The agent's status keys, which status controls read.
 constexpr std::array statusKeys = {PreferenceKey::agentAccessibilityTrusted,
                                    PreferenceKey::agentLaunchAtLogin,
                                    PreferenceKey::agentLaunchAtLoginNeedsApproval};
@@ -28,9 +29,9 @@ std::string versionText() {
     return bundle.version + " (" + bundle.build + ")";
 }
 
-bool readsStatusKey(const ControlBinding& binding) {
-    return binding.status ||
-           std::find(statusKeys.begin(), statusKeys.end(), binding.key) != statusKeys.end();
+bool trusted(const std::map<std::string, DefaultsValue>& seen) {
+    const auto found = seen.find(std::string(PreferenceKey::agentAccessibilityTrusted));
+    return found != seen.end() && found->second.boolean().value_or(false);
 }
 
 void post(CommandChannel::Command command, std::optional<bool> value) {
@@ -59,7 +60,7 @@ SettingsModel::SettingsModel(std::shared_ptr<DefaultsStore> store, LaunchOptions
         case LaunchOptions::Start::settings:
             break;
     }
-    lastStatus_ = statusSnapshot();
+    lastSeen_ = snapshot();
 }
 
 SettingsModel::~SettingsModel() = default;
@@ -139,27 +140,31 @@ void SettingsModel::goOn() {
 
 void SettingsModel::setVisible(bool visible) {
     visible_ = visible;
-    if (visible) lastStatus_ = statusSnapshot();
+    if (visible) lastSeen_ = snapshot();
     scheduleRefresh();
 }
 
 void SettingsModel::shown() {
+    lastSeen_ = snapshot();
     scheduleRefresh();
     changed();
 }
 
-bool SettingsModel::showsStatus() const {
+std::set<std::string> SettingsModel::watchedKeys() const {
+    std::set<std::string> keys;
     for (const Section& section : currentPage().sections) {
         for (const Control& control : section.controls) {
             const ControlBinding* bound = binding(control.id);
-            if (bound != nullptr && readsStatusKey(*bound)) return true;
+            if (bound == nullptr) continue;
+            if (!bound->key.empty()) keys.insert(bound->key);
+            if (bound->status) keys.insert(statusKeys.begin(), statusKeys.end());
         }
     }
-    return false;
+    return keys;
 }
 
 void SettingsModel::scheduleRefresh() {
-    if (!visible_ || !showsStatus()) {
+    if (!visible_ || watchedKeys().empty()) {
         refreshTimer_.reset();
         return;
     }
@@ -169,26 +174,25 @@ void SettingsModel::scheduleRefresh() {
         platform().executor.oneShot(statusRefreshInterval, refreshTolerance, [this, alive] {
             if (!alive.lock()) return;
             refreshTimer_.reset();
-            refreshStatus();
+            refresh();
             scheduleRefresh();
         });
 }
 
-std::map<std::string, bool> SettingsModel::statusSnapshot() const {
-    std::map<std::string, bool> snapshot;
-    for (const std::string_view key : statusKeys) {
-        snapshot[std::string(key)] = store_->object(std::string(key)).boolean().value_or(false);
-    }
-    return snapshot;
+std::map<std::string, DefaultsValue> SettingsModel::snapshot() const {
+    std::map<std::string, DefaultsValue> seen;
+    for (const std::string& key : watchedKeys())
+        seen.emplace(key, store_->object(key));
+    return seen;
 }
 
-void SettingsModel::refreshStatus() {
-    auto now = statusSnapshot();
-    if (now == lastStatus_) return;
-    const std::string trusted(PreferenceKey::agentAccessibilityTrusted);
-    const bool granted = now[trusted] && !lastStatus_[trusted];
-    lastStatus_ = std::move(now);
-    // The grant was what the Accessibility step waited for.
+// Another process (the agent, its status panel) changed a key the page shows: observers
+// redraw, and the grant the Accessibility step waits for moves the guide on.
+void SettingsModel::refresh() {
+    auto now = snapshot();
+    if (now == lastSeen_) return;
+    const bool granted = trusted(now) && !trusted(lastSeen_);
+    lastSeen_ = std::move(now);
     if (granted && mode_ == Mode::welcome && currentPage().id == PageId::accessibility) {
         goOn();
         return;

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,7 +46,8 @@ class SettingsModel {
     // The Settings app's own bundle identifier. It is not the domain's, so the app reaches
     // the shared domain as a suite.
     static constexpr std::string_view bundleIdentifier = "com.quillmarsh.vistrel.settings";
-    // How often status keys are read again while a page that shows them is visible.
+    // How often the keys a visible page shows are read again, so that what the agent (its
+    // status keys) or the status panel changed shows without the user doing anything.
     static constexpr double statusRefreshInterval = 1.0;
 
     // `store` is the shared domain (Shared::store() in the app).
@@ -81,8 +83,8 @@ class SettingsModel {
     void goBack();
     void goOn();
 
-    // The window became visible or went away: status keys are re-read every
-    // statusRefreshInterval seconds only while a visible page shows them.
+    // The window became visible or went away: the keys of the page showing are re-read
+    // every statusRefreshInterval seconds only while it is visible.
     void setVisible(bool visible);
 
     // --- Values --------------------------------------------------------------------------
@@ -125,7 +127,8 @@ class SettingsModel {
 
     // --- Change notification -------------------------------------------------------------
     // The observer runs after every change of what shows or of a value the model saw
-    // change (a write through the model, a status key re-read). Answers a token.
+    // change (a write through the model, a key of the visible page changed elsewhere). Answers a
+    // token.
     std::uint64_t observe(Observer observer);
     void stopObserving(std::uint64_t token);
 
@@ -139,9 +142,10 @@ class SettingsModel {
     bool edited(bool ok, std::string message);
     void changed();
     void scheduleRefresh();
-    void refreshStatus();
-    bool showsStatus() const;
-    std::map<std::string, bool> statusSnapshot() const;
+    void refresh();
+    // The keys the page showing now reads, and their values.
+    std::set<std::string> watchedKeys() const;
+    std::map<std::string, DefaultsValue> snapshot() const;
 
     std::shared_ptr<DefaultsStore> store_;
     std::vector<Page> pages_;
@@ -153,7 +157,7 @@ class SettingsModel {
     bool replay_ = false;
     bool visible_ = false;
     std::string layoutsMessage_;
-    std::map<std::string, bool> lastStatus_;
+    std::map<std::string, DefaultsValue> lastSeen_;
     std::unique_ptr<Timer> refreshTimer_;
     std::map<std::uint64_t, Observer> observers_;
     std::uint64_t nextToken_ = 1;

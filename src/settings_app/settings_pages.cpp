@@ -119,6 +119,8 @@ void addLayoutsPage(SettingsContent& content) {
     gap.key = PreferenceKey::layoutsGap;
     gap.read = ControlBinding::Read::number;
     gap.enabledBy = enabled;
+    ControlBinding savedList;
+    savedList.key = PreferenceKey::layoutsSaved;
 
     startPage(content, PageId::layouts, "Layouts", "rectangle.3.group")
         .section()
@@ -136,7 +138,7 @@ void addLayoutsPage(SettingsContent& content) {
              gap)
         .section("Saved Layouts",
                  "Command-1 to Command-9 restore the first nine while Mission Control is open.")
-        .add(ControlSpec(ControlKind::layoutList, "layouts.saved", "Saved layouts"));
+        .add(ControlSpec(ControlKind::layoutList, "layouts.saved", "Saved layouts"), savedList);
 }
 
 void addAboutPage(SettingsContent& content, const std::string& version) {

@@ -155,7 +155,7 @@ TEST_F(WelcomeGuideTest, StatusIsNotPolledWhileTheWindowIsHidden) {
     EXPECT_EQ(model->currentPage().id, PageId::accessibility);
 }
 
-TEST_F(WelcomeGuideTest, APageWithoutStatusDoesNotPoll) {
+TEST_F(WelcomeGuideTest, APageWithoutTheseKeysIsNotToldOfThem) {
     const auto model = launch();
     model->setVisible(true);
     model->selectPage(PageId::buttons);
@@ -178,6 +178,39 @@ TEST_F(WelcomeGuideTest, TheGeneralPageRefreshesWhenTheAgentPublishes) {
     EXPECT_EQ(told, 1);
     wait(5);
     EXPECT_EQ(told, 1);
+}
+
+TEST_F(WelcomeGuideTest, AShortcutSwitchedOffInTheStatusPanelShowsWithinASecond) {
+    const auto model = launch();
+    model->setVisible(true);
+    model->selectPage(PageId::shortcuts);
+    int told = 0;
+    model->observe([&] { ++told; });
+    put(Shared::Key::hotkeyDisabled(Hotkey::hide), true);
+    wait(SettingsModel::statusRefreshInterval);
+    EXPECT_EQ(told, 1);
+    EXPECT_FALSE(model->isOn("shortcuts.hide"));
+}
+
+TEST_F(WelcomeGuideTest, ALayoutSavedFromTheMenuAppearsInTheListWithinASecond) {
+    const auto model = launch();
+    model->setVisible(true);
+    model->selectPage(PageId::layouts);
+    int told = 0;
+    model->observe([&] { ++told; });
+    put(PreferenceKey::layoutsSaved, "[]");
+    wait(SettingsModel::statusRefreshInterval);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(WelcomeGuideTest, TheAboutPageReadsNoKeysAndSoDoesNotPoll) {
+    const auto model = launch({"--about"});
+    model->setVisible(true);
+    EXPECT_FALSE(desktop.executor().nextEventTime());
+    model->selectPage(PageId::general);
+    EXPECT_TRUE(desktop.executor().nextEventTime());
+    model->setVisible(false);
+    EXPECT_FALSE(desktop.executor().nextEventTime());
 }
 
 }  // namespace
