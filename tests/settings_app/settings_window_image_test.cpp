@@ -85,5 +85,17 @@ TEST_F(SettingsWindowImageTest, WelcomeAccessibilityStepWaitingDarkMatchesTheRef
     EXPECT_TRUE(matchesReference(picture(Appearance::dark), "settings_welcome_accessibility_dark"));
 }
 
+TEST_F(SettingsWindowImageTest, TheWindowGrowsToFitALongPage) {
+    model->selectPage(PageId::about);
+    EXPECT_EQ(SettingsWindowPainter(*model, Appearance::light).size().height,
+              SettingsWindowPainter::minimumHeight);
+    for (int i = 0; i < 12; ++i) {
+        LayoutStore::add(*domain, {UUID::random(), "Layout", {}, 700'000'000});
+    }
+    model->selectPage(PageId::layouts);
+    EXPECT_GT(SettingsWindowPainter(*model, Appearance::light).size().height,
+              SettingsWindowPainter::minimumHeight);
+}
+
 }  // namespace
 }  // namespace vistrel
