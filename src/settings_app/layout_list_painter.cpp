@@ -23,6 +23,7 @@ constexpr double nameSize = 13;
 constexpr double detailSize = 11;
 constexpr double glyphSide = 14;
 constexpr double buttonSpacing = 4;
+constexpr double warningRoom = 14;
 
 // The buttons under the table that act on the chosen row.
 enum class RowButton { remove, moveUp, moveDown };
@@ -68,9 +69,16 @@ void LayoutListPainter::paint(Canvas& canvas, Rect row) const {
     const std::string& message = model_.layoutsMessage();
     if (message.empty()) return;
     const SettingsInk ink{appearance_};
-    const TextRun run{SettingsText::fitted({message, Font::system(detailSize), {}}, table.width),
-                      Font::system(detailSize), ink(SettingsPalette::secondaryLabel)};
-    SettingsText::drawLeft(canvas, run, table.x, bar.maxY() + gap + messageLine / 2);
+    const double midY = bar.maxY() + gap + messageLine / 2;
+    double x = table.x;
+    if (model_.layoutsMessageIsWarning()) {
+        SettingsWidgets::drawStatusLight(canvas, {x + warningRoom / 2 - 2, midY}, false, ink);
+        x += warningRoom;
+    }
+    const Font font = Font::system(detailSize);
+    const TextRun run{SettingsText::fitted({message, font, {}}, table.maxX() - x), font,
+                      ink(SettingsPalette::secondaryLabel)};
+    SettingsText::drawLeft(canvas, run, x, midY);
 }
 
 void LayoutListPainter::paintTable(Canvas& canvas, Rect table) const {

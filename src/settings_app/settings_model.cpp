@@ -310,6 +310,7 @@ std::vector<LayoutRow> SettingsModel::layouts() const {
 
 bool SettingsModel::edited(bool ok, std::string message) {
     layoutsMessage_ = std::move(message);
+    layoutsMessageIsWarning_ = !ok && !layoutsMessage_.empty();
     changed();
     return ok;
 }

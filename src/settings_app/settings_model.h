@@ -43,6 +43,8 @@ class SettingsModel {
     enum class Mode { settings, welcome };
     using Observer = std::function<void()>;
 
+    // The app's name, the title of its window.
+    static constexpr std::string_view appName = "Vistrel Settings";
     // The Settings app's own bundle identifier. It is not the domain's, so the app reaches
     // the shared domain as a suite.
     static constexpr std::string_view bundleIdentifier = "com.quillmarsh.vistrel.settings";
@@ -122,13 +124,15 @@ class SettingsModel {
     // The last layout operation's message for the user ("Imported 2 layouts.", or why it
     // failed); empty until there is one.
     const std::string& layoutsMessage() const { return layoutsMessage_; }
+    // Whether that message says an edit failed (drawn with a warning mark).
+    bool layoutsMessageIsWarning() const { return layoutsMessageIsWarning_; }
     // The file name the export proposes.
     static constexpr std::string_view exportFileName = "Vistrel Layouts.json";
 
     // --- Change notification -------------------------------------------------------------
     // The observer runs after every change of what shows or of a value the model saw
-    // change (a write through the model, a key of the visible page changed elsewhere). Answers a
-    // token.
+    // change (a write through the model, a key of the visible page changed elsewhere).
+    // Answers a token.
     std::uint64_t observe(Observer observer);
     void stopObserving(std::uint64_t token);
 
@@ -157,6 +161,7 @@ class SettingsModel {
     bool replay_ = false;
     bool visible_ = false;
     std::string layoutsMessage_;
+    bool layoutsMessageIsWarning_ = false;
     std::map<std::string, DefaultsValue> lastSeen_;
     std::unique_ptr<Timer> refreshTimer_;
     std::map<std::uint64_t, Observer> observers_;

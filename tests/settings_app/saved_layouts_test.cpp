@@ -119,6 +119,7 @@ TEST_F(SavedLayoutsTest, ImportAddsTheFilesLayoutsAfterTheSavedOnes) {
     EXPECT_EQ(storedNames(),
               (std::vector<std::string>{"Writing", "Mail", "Review", "Design", "Music"}));
     EXPECT_EQ(model->layoutsMessage(), "Imported 2 layouts.");
+    EXPECT_FALSE(model->layoutsMessageIsWarning());
 }
 
 TEST_F(SavedLayoutsTest, ImportingAnExportAgainReplacesTheSameLayoutsInPlace) {
