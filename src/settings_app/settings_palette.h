@@ -10,8 +10,6 @@ namespace vistrel {
 namespace SettingsPalette {
 inline constexpr DFKitColor window =
     dynamicColor(Color::fromRGB(0xECECEC), Color::fromRGB(0x1E1E1E));
-inline constexpr DFKitColor titleBar =
-    dynamicColor(Color::fromRGB(0xE3E3E3), Color::fromRGB(0x2A2A2A));
 inline constexpr DFKitColor sidebar =
     dynamicColor(Color::fromRGB(0xE1E1E3), Color::fromRGB(0x282828));
 inline constexpr DFKitColor box = dynamicColor(Color::fromRGB(0xF7F7F7), Color::fromRGB(0x282828));
@@ -28,8 +26,6 @@ inline constexpr DFKitColor tertiaryLabel =
 inline constexpr DFKitColor accent =
     dynamicColor(Color::fromRGB(0x0A7AFF), Color::fromRGB(0x0A84FF));
 inline constexpr DFKitColor onAccent = dynamicColor(Color::white(), Color::white());
-inline constexpr DFKitColor selection =
-    dynamicColor(Color::black().withAlpha(0.10), Color::white().withAlpha(0.11));
 inline constexpr DFKitColor table = dynamicColor(Color::white(), Color::fromRGB(0x1E1E1E));
 inline constexpr DFKitColor control = dynamicColor(Color::white(), Color::fromRGB(0x5A5A5C));
 inline constexpr DFKitColor controlBorder =

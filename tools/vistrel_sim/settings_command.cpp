@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -109,7 +110,7 @@ class SettingsSession {
         for (const Appearance appearance : {Appearance::light, Appearance::dark}) {
             if (!everyPage(appearance) || !welcomeGuide(appearance)) return 1;
         }
-        return 0;
+        return layoutFiles() ? 0 : 1;
     }
 
   private:
@@ -134,6 +135,23 @@ class SettingsSession {
             model.selectPage(page.id);
             if (!picture(model, appearance, "page_" + lowered(page.title))) return false;
         }
+        context_.out << "\n";
+        return true;
+    }
+
+    // The saved layouts exported to a file and a file that is not a layouts file imported:
+    // the list stays as it was and the window says why.
+    bool layoutFiles() {
+        context_.out << "== saved layouts to and from files ==\n";
+        SettingsModel model(store_, LaunchOptions::fromArguments({"Vistrel Settings"}));
+        model.selectPage(PageId::layouts);
+        model.exportLayouts((folder_ / SettingsModel::exportFileName).string());
+        context_.out << "  " << model.layoutsMessage() << "\n";
+        const fs::path notLayouts = folder_ / "notes.txt";
+        std::ofstream(notLayouts) << "Remember: the shelf shows nine layouts.\n";
+        model.importLayouts(notLayouts.string());
+        context_.out << "  " << model.layoutsMessage() << "\n";
+        if (!picture(model, Appearance::light, "page_layouts_import_refused")) return false;
         context_.out << "\n";
         return true;
     }
