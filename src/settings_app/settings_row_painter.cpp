@@ -126,9 +126,13 @@ double SettingsRowPainter::height(const Control& control, double width) const {
 
 void SettingsRowPainter::paint(Canvas& canvas, const Control& control, Rect row) const {
     const SettingsInk ink = SettingsInk{appearance_}.disabledUnless(model_.isEnabled(control.id));
-    if (control.kind == ControlKind::picture) return paintPicture(canvas, control, row);
+    if (control.kind == ControlKind::picture) {
+        paintPicture(canvas, control, row);
+        return;
+    }
     if (control.kind == ControlKind::layoutList) {
-        return LayoutListPainter(model_, appearance_).paint(canvas, row);
+        LayoutListPainter(model_, appearance_).paint(canvas, row);
+        return;
     }
     const auto help = helpLines(control, row.width);
     const double textHeight = labelLine + helpLine * static_cast<double>(help.size());
