@@ -25,9 +25,9 @@ ControlBinding accessibilityStatus() {
     ControlBinding binding;
     binding.status = [](DefaultsStore& store) {
         if (statusFlag(store, PreferenceKey::agentAccessibilityTrusted)) {
-            return StatusState{"Vistrel can act on windows.", true};
+            return StatusState{"Allowed", true};
         }
-        return StatusState{"Vistrel needs Accessibility access to act on windows.", false};
+        return StatusState{"Not allowed yet", false};
     };
     return binding;
 }

@@ -76,10 +76,9 @@ TEST_F(WelcomeGuideTest, ShowingTheGuideFromGeneralCountsAsAReplayOnceFinished) 
 TEST_F(WelcomeGuideTest, TheAccessibilityStepShowsTheLiveGrant) {
     const auto model = launch({"--onboarding"});
     model->goOn();
-    EXPECT_FALSE(model->status("welcome.accessibility").good);
+    EXPECT_EQ(model->status("welcome.accessibility"), (StatusState{"Not allowed yet", false}));
     agentPublishes(PreferenceKey::agentAccessibilityTrusted, true);
-    EXPECT_EQ(model->status("welcome.accessibility"),
-              (StatusState{"Vistrel can act on windows.", true}));
+    EXPECT_EQ(model->status("welcome.accessibility"), (StatusState{"Allowed", true}));
 }
 
 // The grant arrives mid-way, given in System Settings while the guide waits: within a
