@@ -10,11 +10,7 @@
 namespace vistrel {
 namespace {
 
-class LiveRefreshTest : public testing::SettingsAppTest {
-  protected:
-    void agentPublishes(std::string_view key, bool value) { put(key, value); }
-    void wait(double seconds) { desktop.executor().advance(seconds); }
-};
+using LiveRefreshTest = testing::SettingsAppTest;
 
 TEST_F(LiveRefreshTest, APageWithoutTheseKeysIsNotToldOfThem) {
     const auto model = launch();

@@ -34,6 +34,9 @@ class SettingsAppTest : public SimTest {
 
     DefaultsValue stored(std::string_view key) { return domain->object(std::string(key)); }
     void put(std::string_view key, DefaultsValue value) { domain->set(std::string(key), value); }
+    // The agent writes one of its status keys.
+    void agentPublishes(std::string_view key, bool value) { put(key, value); }
+    void wait(double seconds) { desktop.executor().advance(seconds); }
 
     std::shared_ptr<DefaultsStore> store;
     std::shared_ptr<SimDefaultsStore> domain =

@@ -10,11 +10,7 @@ namespace {
 
 using Mode = SettingsModel::Mode;
 
-class WelcomeGuideTest : public testing::SettingsAppTest {
-  protected:
-    void agentPublishes(std::string_view key, bool value) { put(key, value); }
-    void wait(double seconds) { desktop.executor().advance(seconds); }
-};
+using WelcomeGuideTest = testing::SettingsAppTest;
 
 TEST_F(WelcomeGuideTest, OnboardingStartsTheGuideAtItsFirstStep) {
     const auto model = launch({"--onboarding"});
