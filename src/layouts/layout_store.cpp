@@ -55,6 +55,11 @@ std::vector<SavedLayout> LayoutStore::add(DefaultsStore& store, const SavedLayou
     return written(store, std::move(layouts));
 }
 
+std::vector<SavedLayout> LayoutStore::replace(DefaultsStore& store,
+                                              std::vector<SavedLayout> layouts) {
+    return written(store, std::move(layouts));
+}
+
 bool LayoutStore::contains(DefaultsStore& store, const UUID& id) {
     const auto layouts = load(store);
     return std::any_of(layouts.begin(), layouts.end(),

@@ -23,6 +23,9 @@ struct LayoutStore {
     static std::vector<SavedLayout> add(DefaultsStore& store, const SavedLayout& layout);
     // Whether the stored list holds a layout with the id.
     static bool contains(DefaultsStore& store, const UUID& id);
+    // Writes the list in place of the stored one (a rename, a new order); returns it, also
+    // when it could not be encoded (and so was not written).
+    static std::vector<SavedLayout> replace(DefaultsStore& store, std::vector<SavedLayout> layouts);
     // Drops every stored layout with the id and writes the rest back (also when none had it).
     static std::vector<SavedLayout> remove(DefaultsStore& store, const UUID& id);
 };

@@ -32,6 +32,9 @@ class FileSystem {
     virtual FileError createFolder(const std::string& folder) = 0;
     // Data.write(to:options: .atomic).
     virtual FileError writeAtomically(const std::string& file, std::string_view bytes) = 0;
+    // Data(contentsOf:): the file's bytes; nothing when it cannot be read. Reading is the
+    // same POSIX read on both systems, so this one implementation serves them.
+    virtual std::optional<std::string> read(const std::string& file);
     // FileManager.copyItem(at:to:), folders with everything in them; fails when something
     // is already at `to`.
     virtual FileError copy(const std::string& from, const std::string& to) = 0;

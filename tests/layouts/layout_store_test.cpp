@@ -157,5 +157,15 @@ INSTANTIATE_TEST_SUITE_P(
         R"({"name":"Bad","windows":[{"app":"A","bundleID":"b","title":""}]},)"
         R"({"name":"Good too","windows":[]}])"));
 
+TEST_F(LayoutStoreTest, ReplaceWritesTheWholeListInItsNewOrder) {
+    const SavedLayout first = layoutNamed("First");
+    const SavedLayout second = layoutNamed("Second");
+    LayoutStore::add(store(), first);
+    LayoutStore::add(store(), second);
+    const auto list = LayoutStore::replace(store(), {second, first});
+    EXPECT_EQ(names(LayoutStore::load(store())), (std::vector<std::string>{"Second", "First"}));
+    EXPECT_EQ(storedText(), LayoutStore::encode(list));
+}
+
 }  // namespace
 }  // namespace vistrel

@@ -1,4 +1,3 @@
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -17,6 +16,7 @@
 #include "ui/kit/dfkit_row.h"
 #include "ui/kit/dfkit_section_label.h"
 #include "ui/kit/dfkit_separator.h"
+#include "ui/menu/shortcut_text.h"
 #include "ui/menu/status_menu_controller.h"
 
 // The rows of the status panel, top to bottom.
@@ -24,22 +24,6 @@
 namespace vistrel {
 
 namespace {
-
-struct ShortcutText {
-    std::string_view title;
-    std::string_view keys;
-};
-
-// In the order of the Hotkey enumeration.
-constexpr std::array<ShortcutText, allHotkeys.size()> shortcutTexts = {{
-    {"Close window", "⌘W"},
-    {"Close all windows of the app", "⌥⌘W"},
-    {"Minimize window", "⌘M"},
-    {"Full screen / maximize window", "⌘F"},
-    {"Hide app", "⌘H"},
-    {"Hide other apps", "⌥⌘H"},
-    {"Force-quit app", "⌘Q"},
-}};
 
 constexpr double allowButtonHeight = 24;
 // The button lines up with the status row's text and keeps clear of the separator.
@@ -96,7 +80,7 @@ DFKitViews StatusMenuController::readinessRows() {
 DFKitViews StatusMenuController::shortcutRows() {
     DFKitViews rows;
     for (const Hotkey hotkey : allHotkeys) {
-        const ShortcutText& text = shortcutTexts.at(static_cast<std::size_t>(hotkey));
+        const ShortcutText& text = ShortcutText::of(hotkey);
         const std::string title(text.title);
         auto toggle = std::make_unique<DFKitSwitch>(
             title, !Settings::shared().hotkeyDisabled(hotkey),
