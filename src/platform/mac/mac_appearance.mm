@@ -1,4 +1,5 @@
 #include "platform/mac/mac_appearance.h"
+#include "platform/mac/mac_appearance_name.h"
 
 #import <AppKit/AppKit.h>
 
@@ -73,16 +74,7 @@ VistrelAppearanceObserver* observerOf(void* observer) {
 }
 }  // namespace
 
-MacAppearance::MacAppearance()
-    : observer_((__bridge_retained void*)[[VistrelAppearanceObserver alloc] initWithOwner:this]) {}
-
-MacAppearance::~MacAppearance() {
-    VistrelAppearanceObserver* observer = (__bridge_transfer VistrelAppearanceObserver*)observer_;
-    [observer stop];
-}
-
-Appearance MacAppearance::current() {
-    NSAppearance* appearance = NSApplication.sharedApplication.effectiveAppearance;
+Appearance appearanceOf(NSAppearance* appearance) {
     const id candidates[] = {NSAppearanceNameAqua, NSAppearanceNameDarkAqua,
                              NSAppearanceNameAccessibilityHighContrastAqua,
                              NSAppearanceNameAccessibilityHighContrastDarkAqua};
@@ -92,6 +84,18 @@ Appearance MacAppearance::current() {
     const bool dark = match == NSAppearanceNameDarkAqua ||
                       match == NSAppearanceNameAccessibilityHighContrastDarkAqua;
     return dark ? Appearance::dark : Appearance::light;
+}
+
+MacAppearance::MacAppearance()
+    : observer_((__bridge_retained void*)[[VistrelAppearanceObserver alloc] initWithOwner:this]) {}
+
+MacAppearance::~MacAppearance() {
+    VistrelAppearanceObserver* observer = (__bridge_transfer VistrelAppearanceObserver*)observer_;
+    [observer stop];
+}
+
+Appearance MacAppearance::current() {
+    return appearanceOf(NSApplication.sharedApplication.effectiveAppearance);
 }
 
 std::uint64_t MacAppearance::observe(Observer observer) {

@@ -7,6 +7,7 @@
 @optional
 - (void)applicationDidFinishLaunching:(NSNotification*)notification;
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag;
+- (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)sender;
 @end
 
 @interface NSApplication (Delegate)

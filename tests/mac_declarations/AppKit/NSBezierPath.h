@@ -8,4 +8,5 @@
                                    xRadius:(CGFloat)xRadius
                                    yRadius:(CGFloat)yRadius VISTREL_MACOS(10.5);
 - (void)fill;
+- (void)stroke;
 @end

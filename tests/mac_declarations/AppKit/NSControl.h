@@ -1,6 +1,7 @@
 #pragma once
 
 #include <AppKit/NSEvent.h>
+#include <AppKit/NSFont.h>
 #include <AppKit/NSView.h>
 #include <Foundation/NSString.h>
 
@@ -13,6 +14,10 @@ static const NSControlStateValue NSControlStateValueOn = 1;
 @property(copy) NSString* stringValue;
 @property(nullable, weak) id target;
 @property(nullable) SEL action;
+@property(nullable, strong) NSFont* font;
+@property(getter=isEnabled) BOOL enabled;
+@property double doubleValue;
+@property NSInteger tag;
 // The events that send the action; answers the mask it replaced.
 - (NSInteger)sendActionOn:(NSEventMask)mask;
 @end

@@ -2,6 +2,7 @@
 
 #include <AppKit/NSAppearance.h>
 #include <AppKit/NSApplication.h>
+#include <AppKit/NSView.h>
 #include <Foundation/NSArray.h>
 
 VISTREL_EXTERN_C_BEGIN
@@ -16,6 +17,12 @@ VISTREL_EXTERN_C_END
 // Nil when none of the names matches.
 - (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:
     (NSArray<NSAppearanceName>*)appearances VISTREL_MACOS(10.14);
+@end
+
+@interface NSView (VistrelAppearance)
+@property(readonly, strong) NSAppearance* effectiveAppearance VISTREL_MACOS(10.14);
+// Called when effectiveAppearance changed; overridden to draw again.
+- (void)viewDidChangeEffectiveAppearance VISTREL_MACOS(10.14);
 @end
 
 @interface NSApplication (VistrelAppearance)

@@ -2,6 +2,7 @@
 
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSObject.h>
+#include <Foundation/NSString.h>
 
 VISTREL_ENUM(NSInteger, NSImageResizingMode){
     NSImageResizingModeTile = 0,
@@ -16,4 +17,7 @@ VISTREL_ENUM(NSInteger, NSImageResizingMode){
 @property NSEdgeInsets capInsets VISTREL_MACOS(10.10);
 @property NSImageResizingMode resizingMode VISTREL_MACOS(10.10);
 - (void)drawInRect:(NSRect)rect VISTREL_MACOS(10.9);
+// Nil when the system has no symbol of that name.
++ (nullable NSImage*)imageWithSystemSymbolName:(NSString*)name
+                      accessibilityDescription:(nullable NSString*)description VISTREL_MACOS(11.0);
 @end

@@ -5,6 +5,8 @@
 #include <Foundation/NSGeometry.h>
 #include <Foundation/NSString.h>
 
+@class NSMenu;
+
 @interface NSMenuItem : NSObject <NSCopying>
 + (NSMenuItem*)separatorItem;
 - (instancetype)initWithTitle:(NSString*)string
@@ -13,10 +15,12 @@
 @property(nullable, weak) id target;
 @property NSControlStateValue state;
 @property(nullable, copy) NSString* toolTip;
+@property(nullable, strong) NSMenu* submenu;
 @end
 
 @interface NSMenu : NSObject <NSCopying>
 - (instancetype)initWithTitle:(NSString*)title;
+@property(copy) NSString* title;
 - (void)addItem:(NSMenuItem*)newItem;
 // Pops the menu up and tracks it; returns once it closes, YES when an item was chosen.
 - (BOOL)popUpMenuPositioningItem:(nullable NSMenuItem*)item

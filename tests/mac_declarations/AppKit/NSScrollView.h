@@ -9,9 +9,14 @@ VISTREL_ENUM(NSUInteger, NSBorderType){
     NSGrooveBorder = 3,
 };
 
+@interface NSClipView : NSView
+@end
+
 @interface NSScrollView : NSView
 - (instancetype)initWithFrame:(NSRect)frameRect;
 @property BOOL hasVerticalScroller;
 @property NSBorderType borderType;
 @property(nullable, strong) __kindof NSView* documentView;
+@property BOOL drawsBackground;
+@property(strong) NSClipView* contentView;
 @end

@@ -1,14 +1,10 @@
 #pragma once
 
+#include <AppKit/NSButton.h>
 #include <AppKit/NSControl.h>
 #include <AppKit/NSImage.h>
 
 static const CGFloat NSSquareStatusItemLength = -2;
-
-@interface NSButton : NSControl
-@property(nullable, strong) NSImage* image;
-- (void)highlight:(BOOL)flag;
-@end
 
 @interface NSStatusBarButton : NSButton
 @end

@@ -9,4 +9,8 @@
 @property(getter=isRichText) BOOL richText;
 @property(nullable, strong) NSFont* font;
 @property(getter=isVerticallyResizable) BOOL verticallyResizable;
+- (void)cut:(nullable id)sender;
+- (void)copy:(nullable id)sender;
+- (void)paste:(nullable id)sender;
+- (void)selectAll:(nullable id)sender;
 @end

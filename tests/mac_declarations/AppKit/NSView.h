@@ -24,4 +24,5 @@ VISTREL_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (void)drawRect:(NSRect)dirtyRect;
 - (void)addSubview:(NSView*)view;
 - (void)removeFromSuperview;
+@property(getter=isHidden) BOOL hidden;
 @end

@@ -7,7 +7,9 @@
 #include <Foundation/NSGeometry.h>
 
 VISTREL_OPTIONS(NSUInteger, NSWindowStyleMask){
-    NSWindowStyleMaskBorderless = 0,
+    NSWindowStyleMaskBorderless = 0,     NSWindowStyleMaskTitled = 1 << 0,
+    NSWindowStyleMaskClosable = 1 << 1,  NSWindowStyleMaskMiniaturizable = 1 << 2,
+    NSWindowStyleMaskResizable = 1 << 3, NSWindowStyleMaskFullSizeContentView = 1 << 15,
 };
 
 VISTREL_ENUM(NSUInteger, NSBackingStoreType){

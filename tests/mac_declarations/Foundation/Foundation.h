@@ -15,6 +15,7 @@
 #include <Foundation/NSFileManager.h>
 #include <Foundation/NSFileManagerTrash.h>
 #include <Foundation/NSGeometry.h>
+#include <Foundation/NSIndexSet.h>
 #include <Foundation/NSKeyValueObserving.h>
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSObjCRuntime.h>

@@ -18,6 +18,7 @@ struct NSEdgeInsets {
 
 VISTREL_EXTERN_C_BEGIN
 extern const NSRect NSZeroRect;
+NSRect NSInsetRect(NSRect aRect, CGFloat dX, CGFloat dY);
 VISTREL_EXTERN_C_END
 
 inline NSSize NSMakeSize(CGFloat w, CGFloat h) {

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <Foundation/NSObject.h>
+
+@interface NSIndexSet : NSObject <NSCopying>
++ (instancetype)indexSetWithIndex:(NSUInteger)value;
+@end
