@@ -140,7 +140,9 @@ void SettingsModel::goOn() {
 
 void SettingsModel::setVisible(bool visible) {
     visible_ = visible;
-    if (visible) lastSeen_ = snapshot();
+    // What changed while the window was away shows at once; a grant given meanwhile moves
+    // the welcome guide on as if it had been seen arriving.
+    if (visible) refresh();
     scheduleRefresh();
 }
 

@@ -150,5 +150,18 @@ TEST_F(WelcomeGuideTest, StatusIsNotPolledWhileTheWindowIsHidden) {
     EXPECT_EQ(model->currentPage().id, PageId::accessibility);
 }
 
+TEST_F(WelcomeGuideTest, AGrantGivenWhileTheWindowWasHiddenMovesOnWhenItShowsAgain) {
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, false);
+    const auto model = launch({"--onboarding"});
+    model->setVisible(true);
+    model->goOn();
+    model->setVisible(false);
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, true);
+    wait(3);
+    EXPECT_EQ(model->currentPage().id, PageId::accessibility);
+    model->setVisible(true);
+    EXPECT_EQ(model->currentPage().id, PageId::login);
+}
+
 }  // namespace
 }  // namespace vistrel
