@@ -8,6 +8,8 @@
 @protocol NSWindowDelegate <NSObject>
 @optional
 - (void)windowWillClose:(NSNotification*)notification;
+- (void)windowDidMiniaturize:(NSNotification*)notification;
+- (void)windowDidDeminiaturize:(NSNotification*)notification;
 @end
 
 // What an ordinary titled window needs beyond the agent's borderless ones.

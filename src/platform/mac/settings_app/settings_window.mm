@@ -140,6 +140,17 @@ constexpr std::int64_t welcomeKeyBase = 1000;
     [page_.widthAnchor constraintEqualToAnchor:scroll_.contentView.widthAnchor].active = YES;
 }
 
+// A window in the Dock shows nothing, so the model stops reading the keys meanwhile.
+- (void)windowDidMiniaturize:(NSNotification*)notification {
+    (void)notification;
+    model_->setVisible(false);
+}
+
+- (void)windowDidDeminiaturize:(NSNotification*)notification {
+    (void)notification;
+    model_->setVisible(true);
+}
+
 - (void)windowWillClose:(NSNotification*)notification {
     (void)notification;
     model_->setVisible(false);
