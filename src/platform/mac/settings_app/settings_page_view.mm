@@ -223,29 +223,30 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
 }
 
 // Refreshes `control` with `read` and keeps it usable only while the model allows.
-- (void)keep:(NSControl*)control fresh:(const Control&)model with:(std::function<void()>)read {
+- (void)keep:(NSControl*)control fresh:(const Control&)definition with:(std::function<void()>)read {
     SettingsModel* settings = model_;
     __weak NSControl* weakControl = control;
-    const std::string id = model.id;
-    refreshers_.push_back([settings, weakControl, id, read = std::move(read)] {
+    const std::string controlId = definition.id;
+    refreshers_.push_back([settings, weakControl, controlId, read = std::move(read)] {
         read();
-        weakControl.enabled = settings->isEnabled(id);
+        weakControl.enabled = settings->isEnabled(controlId);
     });
 }
 
 - (NSView*)switchFor:(const Control&)control {
     NSSwitch* toggle = [[NSSwitch alloc] initWithFrame:NSZeroRect];
     SettingsModel* model = model_;
-    const std::string id = control.id;
+    const std::string controlId = control.id;
     __weak NSSwitch* weakToggle = toggle;
     [self connect:toggle
                to:^{
-                 model->setOn(id, weakToggle.state == NSControlStateValueOn);
+                 model->setOn(controlId, weakToggle.state == NSControlStateValueOn);
                }];
     [self keep:toggle
          fresh:control
-          with:[model, id, weakToggle] {
-              weakToggle.state = model->isOn(id) ? NSControlStateValueOn : NSControlStateValueOff;
+          with:[model, controlId, weakToggle] {
+              weakToggle.state =
+                  model->isOn(controlId) ? NSControlStateValueOn : NSControlStateValueOff;
           }];
     toggle.accessibilityLabel = vistrel::nsString(control.label);
     return toggle;
@@ -310,17 +311,17 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
                                                                 weight:NSFontWeightRegular],
                                NSColor.secondaryLabelColor);
     SettingsModel* model = model_;
-    const std::string id = control.id;
+    const std::string controlId = control.id;
     __weak NSSlider* weakSlider = slider;
     [self connect:slider
                to:^{
-                 model->setNumber(id, weakSlider.doubleValue);
+                 model->setNumber(controlId, weakSlider.doubleValue);
                }];
     __weak NSTextField* weakValue = value;
     [self keep:slider
          fresh:control
-          with:[model, id, range, weakSlider, weakValue] {
-              const double number = model->number(id);
+          with:[model, controlId, range, weakSlider, weakValue] {
+              const double number = model->number(controlId);
               weakSlider.doubleValue = number;
               weakValue.stringValue =
                   vistrel::nsString(std::to_string(static_cast<long>(number)) + " " + range.unit);
@@ -353,10 +354,10 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
 
 - (void)connectPress:(NSButton*)button of:(const Control&)control {
     SettingsModel* model = model_;
-    const std::string id = control.id;
+    const std::string controlId = control.id;
     [self connect:button
                to:^{
-                 model->press(id);
+                 model->press(controlId);
                }];
     [self keep:button fresh:control with:[] {}];
 }
@@ -365,11 +366,11 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
     NSImageView* mark = [[NSImageView alloc] initWithFrame:NSZeroRect];
     NSTextField* text = label("", bodyFont(), NSColor.secondaryLabelColor);
     SettingsModel* model = model_;
-    const std::string id = control.id;
+    const std::string controlId = control.id;
     __weak NSImageView* weakMark = mark;
     __weak NSTextField* weakText = text;
-    refreshers_.push_back([model, id, weakMark, weakText] {
-        const vistrel::StatusState state = model->status(id);
+    refreshers_.push_back([model, controlId, weakMark, weakText] {
+        const vistrel::StatusState state = model->status(controlId);
         weakText.stringValue = vistrel::nsString(state.text);
         weakMark.image =
             [NSImage imageWithSystemSymbolName:state.good ? @"checkmark.circle.fill"
@@ -398,11 +399,12 @@ NSStackView* stack(NSUserInterfaceLayoutOrientation orientation, CGFloat spacing
         [picture.heightAnchor constraintEqualToConstant:control.pictureSize.height],
     ]];
     SettingsModel* model = model_;
-    const std::string id = control.id;
+    const std::string controlId = control.id;
     __weak VistrelDisplayListView* weakPicture = picture;
-    refreshers_.push_back([model, id, weakPicture] {
-        [weakPicture setDisplayList:model->picture(id, vistrel::appearanceOf(
-                                                           weakPicture.effectiveAppearance))];
+    refreshers_.push_back([model, controlId, weakPicture] {
+        [weakPicture
+            setDisplayList:model->picture(controlId,
+                                          vistrel::appearanceOf(weakPicture.effectiveAppearance))];
     });
     return picture;
 }
