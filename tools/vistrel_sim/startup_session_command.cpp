@@ -11,6 +11,7 @@
 #include "settings/settings_launcher.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
+#include "settings_app/settings_model.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
 #include "tracking/mission_control_detector.h"
@@ -23,7 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view sessionName = "startup";
 constexpr std::string_view diskImagePath = "/Volumes/Vistrel/Vistrel.app";
-constexpr std::string_view settingsIdentifier = "com.quillmarsh.vistrel.settings";
 constexpr std::size_t notNowButton = 1;
 // Long enough for the agent's delayed start-up work and the Settings app's launch.
 constexpr double launchSettle = 1.0;
@@ -40,8 +40,8 @@ class StartupSession {
         : context_(context), rig_(context, sessionName, SessionRig::Start::nothing) {
         SimDesktop& desktop = rig_.desktop();
         SimInstalledApplication settings;
-        settings.bundleIdentifier = std::string(settingsIdentifier);
-        settings.name = "Vistrel Settings";
+        settings.bundleIdentifier = std::string(SettingsModel::bundleIdentifier);
+        settings.name = std::string(SettingsModel::appName);
         settings.path = SettingsLauncher::path(desktop.bundle.path);
         desktop.installations().install(settings);
         // A build with an update key, so the updater starts and the command reaches it.

@@ -10,3 +10,12 @@
 - (void)run:(id)sender;
 
 @end
+
+namespace vistrel {
+
+// A push button whose action runs `handler`. A control holds its target weakly, so the
+// target is kept in `targets`, which must live as long as the button.
+NSButton* makeBlockButton(NSString* title, NSMutableArray<VistrelBlockTarget*>* targets,
+                          void (^handler)(void));
+
+}  // namespace vistrel

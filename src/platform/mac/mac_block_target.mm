@@ -15,3 +15,14 @@
 }
 
 @end
+
+namespace vistrel {
+
+NSButton* makeBlockButton(NSString* title, NSMutableArray<VistrelBlockTarget*>* targets,
+                          void (^handler)(void)) {
+    VistrelBlockTarget* target = [[VistrelBlockTarget alloc] initWithHandler:handler];
+    [targets addObject:target];
+    return [NSButton buttonWithTitle:title target:target action:@selector(run:)];
+}
+
+}  // namespace vistrel

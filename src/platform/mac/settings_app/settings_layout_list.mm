@@ -80,26 +80,23 @@ NSString* const detailColumn = @"detail";
 }
 
 - (NSView*)makeButtons {
-    NSButton* remove = [self button:@"Delete…"
-                             action:^{
-                               [self deleteSelected];
-                             }];
-    NSButton* up = [self button:@"Move Up"
-                         action:^{
-                           [self moveSelectedBy:-1];
-                         }];
-    NSButton* down = [self button:@"Move Down"
-                           action:^{
-                             [self moveSelectedBy:1];
-                           }];
-    NSButton* import = [self button:@"Import…"
-                             action:^{
-                               [self importLayouts];
-                             }];
-    NSButton* exportButton = [self button:@"Export…"
-                                   action:^{
-                                     [self exportLayouts];
-                                   }];
+    // The buttons' targets live with this view: holding it strongly would keep it forever.
+    __weak VistrelSettingsLayoutList* weakSelf = self;
+    NSButton* remove = vistrel::makeBlockButton(@"Delete…", targets_, ^{
+      [weakSelf deleteSelected];
+    });
+    NSButton* up = vistrel::makeBlockButton(@"Move Up", targets_, ^{
+      [weakSelf moveSelectedBy:-1];
+    });
+    NSButton* down = vistrel::makeBlockButton(@"Move Down", targets_, ^{
+      [weakSelf moveSelectedBy:1];
+    });
+    NSButton* import = vistrel::makeBlockButton(@"Import…", targets_, ^{
+      [weakSelf importLayouts];
+    });
+    NSButton* exportButton = vistrel::makeBlockButton(@"Export…", targets_, ^{
+      [weakSelf exportLayouts];
+    });
     selectionButtons_ = @[ remove, up, down ];
     NSStackView* line =
         [NSStackView stackViewWithViews:@[ remove, up, down, import, exportButton ]];
@@ -107,12 +104,6 @@ NSString* const detailColumn = @"detail";
     line.spacing = 8;
     [line setCustomSpacing:24 afterView:down];
     return line;
-}
-
-- (NSButton*)button:(NSString*)title action:(void (^)(void))action {
-    VistrelBlockTarget* target = [[VistrelBlockTarget alloc] initWithHandler:action];
-    [targets_ addObject:target];
-    return [NSButton buttonWithTitle:title target:target action:@selector(run:)];
 }
 
 - (void)refresh {

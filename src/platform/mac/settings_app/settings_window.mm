@@ -82,14 +82,13 @@ constexpr std::int64_t welcomeKeyBase = 1000;
 
 // Back and Continue, shown only in the welcome guide; Return continues.
 - (NSView*)makeBar {
-    back_ = [self button:@"Back"
-                  action:^{
-                    self->model_->goBack();
-                  }];
-    continue_ = [self button:@"Continue"
-                      action:^{
-                        self->model_->goOn();
-                      }];
+    vistrel::SettingsModel* model = model_;
+    back_ = vistrel::makeBlockButton(@"Back", targets_, ^{
+      model->goBack();
+    });
+    continue_ = vistrel::makeBlockButton(@"Continue", targets_, ^{
+      model->goOn();
+    });
     continue_.keyEquivalent = @"\r";
     NSView* gap = [[NSView alloc] initWithFrame:NSZeroRect];
     [gap setContentHuggingPriority:NSLayoutPriorityDefaultLow
@@ -98,12 +97,6 @@ constexpr std::int64_t welcomeKeyBase = 1000;
     bar_.orientation = NSUserInterfaceLayoutOrientationHorizontal;
     bar_.edgeInsets = NSEdgeInsetsMake(barInset, barInset * 2, barInset, barInset * 2);
     return bar_;
-}
-
-- (NSButton*)button:(NSString*)title action:(void (^)(void))action {
-    VistrelBlockTarget* target = [[VistrelBlockTarget alloc] initWithHandler:action];
-    [targets_ addObject:target];
-    return [NSButton buttonWithTitle:title target:target action:@selector(run:)];
 }
 
 - (void)show {
