@@ -10,7 +10,6 @@
 #include "settings/shared.h"
 #include "settings/updates.h"
 #include "tracking/engine.h"
-#include "tracking/mission_control_host.h"
 #include "ui/kit/dfkit_fonts.h"
 #include "ui/menu/status_menu_controller.h"
 
@@ -53,7 +52,6 @@ void AppDelegate::applicationDidFinishLaunching() {
     Settings::shared().publishStatus();
     engine_ = Engine::make();
     engine_->start();
-    MissionControlHosts::logWhereRead();
     Log::info(startedLine());
     Updates::start();
 }

@@ -77,6 +77,10 @@ std::optional<WindowHit> windowAt(Point point) {
     if (MissionControlHosts::running() == MissionControlHost::windowManager) {
         return ThumbnailWindow::at(point);
     }
+    return hitWindow(point);
+}
+
+std::optional<WindowHit> hitWindow(Point point) {
     const auto found = elementAt(point);
     if (!found) return std::nullopt;
     const AXElement& hit = *found;

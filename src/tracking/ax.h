@@ -77,6 +77,10 @@ std::optional<AXElement> elementAt(Point point);
 // or the window it belongs to. Where it lives in WindowManager: the window the thumbnail
 // under the point names.
 std::optional<WindowHit> windowAt(Point point);
+// The window the system-wide hit-test answers at a point: the hit element when it is a
+// window, else the window it belongs to; nothing when it answers with an element of no
+// window (a Mission Control thumbnail button).
+std::optional<WindowHit> hitWindow(Point point);
 
 // The overlay buttons that can act on the window under the "maximizeMode" setting.
 std::set<OverlayButton> availableButtons(const AXElement& window, std::string_view maximizeMode);

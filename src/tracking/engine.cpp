@@ -35,6 +35,7 @@ struct Engine::HitTest {
     Pid ownPid = 0;
     Pid dockPid = 0;
     std::string maximizeMode;
+    std::shared_ptr<const ThumbnailTargets> targets;
     std::optional<Target> candidate;
 };
 
@@ -51,7 +52,10 @@ Engine::Engine(Private, std::unique_ptr<EngineLayouts> layouts)
       ownPid_(platform().workspace.ownPid()),
       axQueue_(platform().executor.makeQueue(std::string(hoverQueueLabel),
                                              QualityOfService::userInteractive)),
-      hitTest_(std::make_shared<HitTest>()) {}
+      hitTest_(std::make_shared<HitTest>()),
+      targets_(std::make_shared<ThumbnailTargets>()) {
+    hitTest_->targets = targets_;
+}
 
 Engine::~Engine() {
     if (!lookupBusy_) return;
@@ -93,6 +97,7 @@ void Engine::tick(bool open) {
 void Engine::opened() {
     active_ = true;
     ticks_ = 0;
+    reading_ = {};
     Log::info(appeared);
     layouts_->missionControlOpened();
 }
@@ -126,21 +131,35 @@ void Engine::refreshThumbnails() {
     thumbsBusy_ = true;
     const std::uint64_t generation = generation_;
     std::weak_ptr<Engine> weak = weak_from_this();
-    axQueue_->async([weak, generation] {
+    axQueue_->async([weak, generation, targets = targets_, ownPid = ownPid_] {
         auto engine = weak.lock();
         if (!engine) return;
-        auto frames = engine->thumbnails_.frames();
+        auto read = engine->thumbnails_.read();
+        std::vector<Rect> frames;
+        for (const MissionControlThumbnail& thumbnail : read.thumbnails)
+            frames.push_back(thumbnail.frame);
+        const MissionControlReading reading = targets->update(generation, std::move(read), ownPid);
         const Pid dockPid = engine->thumbnails_.dockPid();
-        platform().executor.main().async([weak, generation, frames = std::move(frames), dockPid] {
-            auto engine = weak.lock();
-            if (!engine) return;
-            engine->thumbsBusy_ = false;
-            engine->dockPid_ = dockPid;
-            if (generation != engine->generation_ || !engine->active_) return;
-            engine->thumbs_ = frames;
-            if (engine->lastPoint_ && !engine->target_) engine->lookUp(*engine->lastPoint_);
-        });
+        platform().executor.main().async(
+            [weak, generation, frames = std::move(frames), dockPid, reading] {
+                auto engine = weak.lock();
+                if (!engine) return;
+                engine->thumbsBusy_ = false;
+                engine->dockPid_ = dockPid;
+                if (generation != engine->generation_ || !engine->active_) return;
+                engine->thumbnailsRead(frames, reading);
+            });
     });
+}
+
+void Engine::thumbnailsRead(const std::vector<Rect>& frames, const MissionControlReading& reading) {
+    thumbs_ = frames;
+    reading_ = reading;
+    if (!hostLogged_ && reading.host) {
+        Log::info(MissionControlHosts::startLine(*reading.host));
+        hostLogged_ = true;
+    }
+    if (lastPoint_ && !target_) lookUp(*lastPoint_);
 }
 
 void Engine::lookUp(Point point) {
@@ -159,11 +178,15 @@ void Engine::lookUp(Point point) {
     axQueue_->async([job = &job] { runHitTest(*job); });
 }
 
-// On the hover queue.
+// On the hover queue. The hit-test's window comes first where it answers with one (up to
+// macOS 26 on some systems); else the window tied to the thumbnail under the point.
 void Engine::runHitTest(HitTest& job) {
     job.candidate.reset();
-    if (auto hit = AX::windowAt(job.point);
-        hit && hit->pid != job.ownPid && hit->pid != job.dockPid) {
+    auto hit = AX::hitWindow(job.point);
+    if (!hit || hit->pid == job.ownPid || hit->pid == job.dockPid) {
+        hit = job.targets->at(job.point, job.generation);
+    }
+    if (hit) {
         job.candidate =
             Target{hit->window, hit->pid, AX::availableButtons(hit->window, job.maximizeMode)};
     }

@@ -14,8 +14,10 @@
 #include "tracking/event_tap.h"
 #include "tracking/event_tap_delegate.h"
 #include "tracking/mission_control_detector.h"
+#include "tracking/mission_control_reading.h"
 #include "tracking/overlay_layout.h"
 #include "tracking/thumbnail_reader.h"
+#include "tracking/thumbnail_targets.h"
 #include "views/overlay_button.h"
 #include "views/overlay_controller.h"
 
@@ -64,6 +66,8 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     const std::vector<Rect>& thumbs() const { return thumbs_; }
     const OverlayController& overlay() const { return overlay_; }
     EventTap& tap() { return tap_; }
+    // What the current (or last) opening of Mission Control let the engine read.
+    MissionControlReading lastReading() const { return reading_; }
     EngineLayouts& layouts() { return *layouts_; }
 
     struct Private;  // lets make() reach the constructor through make_shared
@@ -82,6 +86,7 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     void closed();
     void ensureTap();
     void refreshThumbnails();
+    void thumbnailsRead(const std::vector<Rect>& frames, const MissionControlReading& reading);
     void lookUp(Point point);
     void apply(const std::optional<Target>& candidate, Point point);
     std::optional<Rect> smallestThumbAt(Point point) const;
@@ -107,6 +112,10 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     Pid ownPid_ = 0;
     std::shared_ptr<SerialQueue> axQueue_;
     std::shared_ptr<HitTest> hitTest_;
+    // The thumbnails' windows; read and written on the hover queue only.
+    std::shared_ptr<ThumbnailTargets> targets_;
+    MissionControlReading reading_;
+    bool hostLogged_ = false;
     bool lookupBusy_ = false;
     std::optional<Point> pendingLookup_;
     bool thumbsBusy_ = false;

@@ -14,10 +14,18 @@ namespace {
 constexpr std::string_view children = "AXChildren";
 constexpr std::string_view identifier = "AXIdentifier";
 
+// Only the owner and the layer: other processes' window names are absent from the list
+// without the Screen Recording permission, which the agent never asks for.
 bool isMissionControlWindow(const WindowDescription& window) {
-    if (window.ownerName != MissionControlDetector::dock) return false;
-    if (window.layer.value_or(0) == MissionControlDetector::missionControlLayer) return true;
-    return window.name == MissionControlDetector::appIcon;
+    return window.ownerName == MissionControlDetector::dock &&
+           window.layer.value_or(0) == MissionControlDetector::missionControlLayer;
+}
+
+// Whether the Dock's tree is worth reading: a Dock window on layer 18 (Mission Control or
+// App Exposé up to macOS 26) or a system whose Mission Control never shows one.
+bool worthReadingTheDock() {
+    return MissionControlHosts::running() == MissionControlHost::windowManager ||
+           MissionControlDetector::windowListShowsMissionControl();
 }
 
 bool onboardingCompleted() {
@@ -29,9 +37,7 @@ bool onboardingCompleted() {
 }  // namespace
 
 bool MissionControlDetector::isMissionControlOpen() {
-    if (MissionControlHosts::running() == MissionControlHost::dock) {
-        return windowListShowsMissionControl();
-    }
+    if (!worthReadingTheDock()) return false;
     ApplicationElement dock(ThumbnailReader::dockBundleIdentifier, ThumbnailReader::dockTimeout);
     return dockShowsMissionControl(dock);
 }
@@ -45,8 +51,9 @@ bool MissionControlDetector::windowListShowsMissionControl() {
     return false;
 }
 
-// The Dock keeps an empty "mc" group while Mission Control is open; "appexpose" (the
-// windows of one application) and its other children do not count.
+// The Dock lists an "mc" group while Mission Control is open (empty from macOS 27);
+// "appexpose" (App Exposé: the windows of one application) and its other children do not
+// count, so App Exposé is not Mission Control.
 bool MissionControlDetector::dockShowsMissionControl(ApplicationElement& dock) {
     const auto element = dock.get();
     if (!element) return false;
@@ -72,11 +79,11 @@ void MissionControlDetector::schedule(double interval) {
 
 void MissionControlDetector::tick() {
     const bool trusted = platform().accessibility.isProcessTrusted();
-    if (trusted && MissionControlHosts::running() == MissionControlHost::windowManager) {
+    if (trusted && worthReadingTheDock()) {
         readInBackground();
         return;
     }
-    report(trusted, trusted && windowListShowsMissionControl());
+    report(trusted, false);
 }
 
 // One read in flight at most: the next poll is armed only when its answer is back.

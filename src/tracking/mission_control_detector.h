@@ -10,19 +10,19 @@
 
 namespace vistrel {
 
-// Tells whether Mission Control is open by polling, since macOS announces nothing. Up to
-// macOS 26 one look at the on-screen window list answers; from 27 the Dock's accessibility
-// tree does (it lists an "mc" group exactly while Mission Control is open), read on a
-// background queue so that the main thread never waits on the Dock. A chain of one-shot
-// timers on the main thread reports the answer on every poll: fast while Mission Control
-// is open, slowly while it is closed, more slowly still without the Accessibility grant,
-// so that an idle agent costs almost nothing.
+// Tells whether Mission Control is open by polling, since macOS announces nothing. The
+// Dock's accessibility tree answers (it lists an "mc" group exactly while Mission Control
+// is open, and an "appexpose" group instead while App Exposé is), read on a background
+// queue so that the main thread never waits on the Dock. Up to macOS 26 a look at the
+// on-screen window list comes first: without a Dock window on layer 18 the tree is not read. A
+// chain of one-shot timers on the main thread reports the answer on every poll: fast while Mission
+// Control is open, slowly while it is closed, more slowly still without the Accessibility grant, so
+// that an idle agent costs almost nothing.
 class MissionControlDetector {
   public:
-    // The owner name of the Dock's windows, and the name of its application-icon window.
+    // The owner name of the Dock's windows.
     static constexpr std::string_view dock = "Dock";
-    static constexpr std::string_view appIcon = "appicon";
-    // The window layer of the Dock's Mission Control windows.
+    // The window layer of the Dock's Mission Control and App Exposé windows.
     static constexpr std::int64_t missionControlLayer = 18;
 
     // Seconds to the next poll, by what the last poll saw.
@@ -34,20 +34,21 @@ class MissionControlDetector {
     static constexpr double startDelay = 0.05;
     // Every timer may fire this fraction of its interval late, so wake-ups coalesce.
     static constexpr double toleranceFraction = 0.1;
-    // Where the Dock's tree is read from macOS 27 on.
+    // Where the Dock's tree is read.
     static constexpr std::string_view queueLabel = "com.quillmarsh.vistrel.detector";
 
     MissionControlDetector() = default;
     MissionControlDetector(const MissionControlDetector&) = delete;
     MissionControlDetector& operator=(const MissionControlDetector&) = delete;
 
-    // One look, wherever the running system shows Mission Control. Blocks on the Dock from
-    // macOS 27 on, so the main thread never calls it there.
+    // One look, wherever the running system shows Mission Control. Blocks on the Dock, so
+    // the main thread never calls it.
     static bool isMissionControlOpen();
-    // Up to macOS 26: a Dock window on the Mission Control layer, or the Dock's "appicon"
-    // window on any layer, in the on-screen window list.
+    // The cheap first look up to macOS 26: a Dock window on the Mission Control layer in
+    // the on-screen window list (App Exposé shows one too).
     static bool windowListShowsMissionControl();
-    // From macOS 27: the Dock's application element has a child identified "mc".
+    // Mission Control itself rather than App Exposé: the Dock's application element has a
+    // child identified "mc".
     static bool dockShowsMissionControl(ApplicationElement& dock);
     // The pacing table.
     static double nextInterval(bool trusted, bool open, bool onboardingCompleted);

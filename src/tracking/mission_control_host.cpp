@@ -1,6 +1,5 @@
 #include "tracking/mission_control_host.h"
 
-#include "diagnostics/log.h"
 #include "platform/platform.h"
 
 namespace vistrel::MissionControlHosts {
@@ -16,10 +15,6 @@ MissionControlHost running() {
 
 std::string_view startLine(MissionControlHost host) {
     return host == MissionControlHost::windowManager ? readingWindowManager : readingDock;
-}
-
-void logWhereRead() {
-    Log::info(startLine(running()));
 }
 
 }  // namespace vistrel::MissionControlHosts

@@ -23,10 +23,8 @@ inline constexpr std::string_view readingWindowManager = "mission control: readi
 MissionControlHost forVersion(const OperatingSystemVersion& version);
 // The host on the system the agent runs on.
 MissionControlHost running();
-// The start-up line naming where Mission Control is read.
+// The line naming where Mission Control was found, logged at its first opening.
 std::string_view startLine(MissionControlHost host);
-// Writes that line to the log.
-void logWhereRead();
 
 }  // namespace MissionControlHosts
 

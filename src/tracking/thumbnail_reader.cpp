@@ -2,7 +2,6 @@
 
 #include "platform/platform.h"
 #include "tracking/ax.h"
-#include "tracking/mission_control_host.h"
 
 namespace vistrel {
 
@@ -10,6 +9,7 @@ namespace {
 
 constexpr std::string_view children = "AXChildren";
 constexpr std::string_view identifier = "AXIdentifier";
+constexpr std::string_view title = "AXTitle";
 
 bool isIdentified(const AXElement& element, std::string_view wanted) {
     return AX::string(element, identifier) == wanted;
@@ -17,43 +17,73 @@ bool isIdentified(const AXElement& element, std::string_view wanted) {
 
 }  // namespace
 
-std::vector<Rect> ThumbnailReader::frames() {
-    if (MissionControlHosts::running() == MissionControlHost::windowManager) {
-        return windowManagerFrames();
+ThumbnailReader::Read ThumbnailReader::read() {
+    const bool windowManagerFirst =
+        MissionControlHosts::running() == MissionControlHost::windowManager;
+    const MissionControlHost first =
+        windowManagerFirst ? MissionControlHost::windowManager : MissionControlHost::dock;
+    const MissionControlHost second =
+        windowManagerFirst ? MissionControlHost::dock : MissionControlHost::windowManager;
+    for (MissionControlHost host : {first, second}) {
+        auto thumbnails =
+            host == MissionControlHost::dock ? dockThumbnails() : windowManagerThumbnails();
+        if (thumbnails) return {host, std::move(*thumbnails)};
     }
-    return dockFrames();
+    hostPid_ = windowManagerFirst ? windowManager_.pid() : dock_.pid();
+    return {};
 }
 
-std::vector<Rect> ThumbnailReader::dockFrames() {
-    std::vector<Rect> result;
+std::vector<Rect> ThumbnailReader::frames() {
+    std::vector<Rect> frames;
+    for (const MissionControlThumbnail& thumbnail : read().thumbnails) {
+        frames.push_back(thumbnail.frame);
+    }
+    return frames;
+}
+
+// The Dock's thumbnails when its "mc" group holds anything; nothing when it is absent or
+// the empty stub macOS 27 leaves there.
+std::optional<std::vector<MissionControlThumbnail>> ThumbnailReader::dockThumbnails() {
     const auto dock = dock_.get();
-    hostPid_ = dock_.pid();
-    if (!dock) return result;
+    if (!dock) return std::nullopt;
+    bool found = false;
+    std::vector<MissionControlThumbnail> thumbnails;
     for (const AXElement& container : AX::elements(*dock, children)) {
         if (!isIdentified(container, missionControlIdentifier)) continue;
         for (const AXElement& level : AX::elements(container, children)) {
-            appendGroupFrames(level, result);
+            found = true;
+            appendGroups(level, thumbnails);
         }
     }
-    return result;
+    if (!found) return std::nullopt;
+    hostPid_ = dock_.pid();
+    return thumbnails;
 }
 
-std::vector<Rect> ThumbnailReader::windowManagerFrames() {
-    std::vector<Rect> result;
-    for (const MissionControlThumbnail& thumbnail : windowManager_.read()) {
-        result.push_back(thumbnail.frame);
-    }
+std::optional<std::vector<MissionControlThumbnail>> ThumbnailReader::windowManagerThumbnails() {
+    auto thumbnails = windowManager_.read();
+    if (!windowManager_.foundDisplay()) return std::nullopt;
     hostPid_ = windowManager_.pid();
-    return result;
+    return thumbnails;
 }
 
 // The thumbnails of every "mc.windows" group among the children of one level of the
 // container: the walk's fixed depth, without recursion.
-void ThumbnailReader::appendGroupFrames(const AXElement& level, std::vector<Rect>& frames) {
+void ThumbnailReader::appendGroups(const AXElement& level,
+                                   std::vector<MissionControlThumbnail>& thumbnails) {
+    std::optional<Rect> display;
+    bool displayRead = false;
     for (const AXElement& group : AX::elements(level, children)) {
         if (!isIdentified(group, windowsIdentifier)) continue;
+        if (!displayRead) {
+            display = AX::frame(level);
+            displayRead = true;
+        }
         for (const AXElement& thumbnail : AX::elements(group, children)) {
-            if (auto frame = AX::frame(thumbnail)) frames.push_back(*frame);
+            const auto frame = AX::frame(thumbnail);
+            if (!frame) continue;
+            thumbnails.push_back({thumbnail, *frame, 0, AX::string(thumbnail, title),
+                                  AX::string(thumbnail, identifier), display});
         }
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -7,13 +8,18 @@
 #include "platform/geometry.h"
 #include "platform/process.h"
 #include "tracking/application_element.h"
+#include "tracking/mission_control_host.h"
+#include "tracking/mission_control_thumbnail.h"
 #include "tracking/window_manager_thumbnails.h"
 
 namespace vistrel {
 
-// Reads the on-screen rectangles of Mission Control's window thumbnails from the tree of
-// the process that draws it: the Dock up to macOS 26, WindowManager from 27. Only
-// rectangles: which window a thumbnail shows is found by hit-testing at the pointer.
+// Reads Mission Control's window thumbnails (frames, titles, identifiers) from the tree of
+// the process that draws it: the Dock's "mc" group when it holds a display, else
+// WindowManager's "mc.display" groups (macOS 27 on, where the Dock keeps an empty "mc").
+// The host is chosen by what is there; the system's version only decides which one is
+// tried first, since a program linked against an older SDK is told an older version.
+// Which window a thumbnail shows is decided elsewhere (ThumbnailTargets).
 // Called from one work queue only, so the caches need no lock.
 class ThumbnailReader {
   public:
@@ -24,8 +30,16 @@ class ThumbnailReader {
     // Calls on the Dock give up after this long, so a busy Dock cannot stall a read.
     static constexpr float dockTimeout = 0.3f;
 
-    // The thumbnail rectangles in tree order (container by container, group by group),
-    // in accessibility coordinates; empty when the host or Mission Control is not there.
+    struct Read {
+        // The host whose tree held Mission Control; nothing when neither did.
+        std::optional<MissionControlHost> host;
+        std::vector<MissionControlThumbnail> thumbnails;
+    };
+
+    // The thumbnails in tree order (container by container, group by group), in
+    // accessibility coordinates; empty when no host shows Mission Control.
+    Read read();
+    // Only the thumbnails' rectangles.
     std::vector<Rect> frames();
 
     // The process that draws Mission Control, as last read: the Dock, or WindowManager
@@ -33,9 +47,9 @@ class ThumbnailReader {
     Pid dockPid() const { return hostPid_; }
 
   private:
-    std::vector<Rect> dockFrames();
-    std::vector<Rect> windowManagerFrames();
-    void appendGroupFrames(const AXElement& level, std::vector<Rect>& frames);
+    std::optional<std::vector<MissionControlThumbnail>> dockThumbnails();
+    std::optional<std::vector<MissionControlThumbnail>> windowManagerThumbnails();
+    void appendGroups(const AXElement& level, std::vector<MissionControlThumbnail>& thumbnails);
 
     ApplicationElement dock_{dockBundleIdentifier, dockTimeout};
     WindowManagerThumbnails windowManager_;

@@ -6,6 +6,7 @@
 
 #include "platform/platform.h"
 #include "tracking/ax.h"
+#include "tracking/thumbnail_match.h"
 
 namespace vistrel {
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr std::string_view children = "AXChildren";
 constexpr std::string_view identifier = "AXIdentifier";
+constexpr std::string_view title = "AXTitle";
 
 // The numbers of the windows on screen now: the current desktop's.
 std::vector<std::uint32_t> onScreenWindows() {
@@ -48,6 +50,7 @@ std::optional<std::uint32_t> WindowManagerThumbnails::windowOf(const AXElement& 
 
 std::vector<MissionControlThumbnail> WindowManagerThumbnails::read() {
     std::vector<MissionControlThumbnail> thumbnails;
+    foundDisplay_ = false;
     const auto windowManager = windowManager_.get();
     if (!windowManager) return thumbnails;
     const auto displays = AX::elements(*windowManager, children);
@@ -55,22 +58,31 @@ std::vector<MissionControlThumbnail> WindowManagerThumbnails::read() {
     const std::vector<std::uint32_t> onScreen = onScreenWindows();
     for (const AXElement& display : displays) {
         if (AX::string(display, identifier) != displayIdentifier) continue;
+        foundDisplay_ = true;
         appendDisplay(display, onScreen, thumbnails);
     }
     return thumbnails;
 }
 
-// The thumbnails among one display's children: those that name a window on screen and
-// have a frame. The "mc.spaces" group names no window and is passed over.
+// The thumbnails among one display's children: those with a frame that name a window on
+// screen, or, where thumbnails name no window, those identified "<bundle id>.space.<n>".
+// Other desktops' thumbnails of the second kind stay in; they fit no window of this one.
+// The "mc.spaces" group is passed over.
 void WindowManagerThumbnails::appendDisplay(const AXElement& display,
                                             const std::vector<std::uint32_t>& onScreen,
                                             std::vector<MissionControlThumbnail>& thumbnails) {
+    const auto displayFrame = AX::frame(display);
     for (const AXElement& child : AX::elements(display, children)) {
         const auto window = windowOf(child);
-        if (!window || std::find(onScreen.begin(), onScreen.end(), *window) == onScreen.end()) {
+        if (window && std::find(onScreen.begin(), onScreen.end(), *window) == onScreen.end()) {
             continue;
         }
-        if (auto frame = AX::frame(child)) thumbnails.push_back({child, *frame, *window});
+        auto name = AX::string(child, identifier);
+        if (!window && !(name && ThumbnailMatch::bundleOfIdentifier(*name))) continue;
+        const auto frame = AX::frame(child);
+        if (!frame) continue;
+        thumbnails.push_back({child, *frame, window.value_or(0), AX::string(child, title),
+                              std::move(name), displayFrame});
     }
 }
 

@@ -14,8 +14,9 @@ namespace vistrel {
 
 // Reads Mission Control's thumbnails where WindowManager holds them (macOS 27 on): its
 // application element has one "mc.display" child per display, whose children are the
-// thumbnails (each naming its window by "wid") and an "mc.spaces" group. Thumbnails of
-// other desktops are listed too and may overlap the visible ones; only those whose window
+// thumbnails (identified "<bundle id>.space.<n>", titled, and on some systems naming their
+// window by "wid") and an "mc.spaces" group. Thumbnails of other desktops are listed too and
+// may overlap the visible ones; of those that name their window, only the ones whose window
 // the on-screen window list holds are kept. Used from one queue only.
 class WindowManagerThumbnails {
   public:
@@ -29,6 +30,8 @@ class WindowManagerThumbnails {
     std::vector<MissionControlThumbnail> read();
     // The process the cached element belongs to; 0 until WindowManager was first found.
     Pid pid() const { return windowManager_.pid(); }
+    // Whether the last read found a display group: WindowManager holds Mission Control.
+    bool foundDisplay() const { return foundDisplay_; }
 
     // A thumbnail's "wid": the number of the window it shows; nothing on other elements.
     static std::optional<std::uint32_t> windowOf(const AXElement& element);
@@ -38,6 +41,7 @@ class WindowManagerThumbnails {
                        std::vector<MissionControlThumbnail>& thumbnails);
 
     ApplicationElement windowManager_{bundleIdentifier, timeout};
+    bool foundDisplay_ = false;
 };
 
 }  // namespace vistrel

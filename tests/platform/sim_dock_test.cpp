@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_thumbnail_layout.h"
 #include "support/sim_test.h"
 #include "tracking/hotkey.h"
 
@@ -46,7 +47,7 @@ class SimDockTest : public testing::SimTest {
             const SimThumbnail& t = thumbnails[i];
             const Rect window = desktop.window(t.window)->frame;
             EXPECT_TRUE(area.contains(t.frame)) << i;
-            EXPECT_LE(t.frame.width, window.width * SimDock::largestScale + 1) << i;
+            EXPECT_LE(t.frame.width, window.width * SimThumbnailLayout::largestScale + 1) << i;
             EXPECT_NEAR(t.frame.width / t.frame.height, window.width / window.height,
                         aspectSlack * window.width / window.height)
                 << i;
@@ -248,7 +249,7 @@ TEST_F(SimDockTest, SwallowedClickLeavesMissionControlOpen) {
 }
 
 TEST(SimDockLayout, NoWindowsGiveNoFrames) {
-    EXPECT_TRUE(SimDock::layOut({}, {0, 0, 100, 100}).empty());
+    EXPECT_TRUE(SimThumbnailLayout::layOut({}, {0, 0, 100, 100}).empty());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_thumbnail_layout.h"
 
 namespace vistrel {
 
@@ -16,45 +17,6 @@ constexpr std::uint32_t firstFullScreenWindowNumber = 0x7200;
 // The desktop the thumbnails of visible windows belong to, and the one of other windows.
 constexpr std::string_view currentSpace = ".space.1";
 constexpr std::string_view otherSpace = ".space.2";
-
-Rect rounded(Rect r) {
-    return {std::round(r.x), std::round(r.y), std::round(r.width), std::round(r.height)};
-}
-
-// The windows of each row when rows hold `columns` windows, in order.
-std::vector<std::vector<std::size_t>> rowsOf(std::size_t count, std::size_t columns) {
-    std::vector<std::vector<std::size_t>> rows;
-    for (std::size_t i = 0; i < count; ++i) {
-        if (i % columns == 0) rows.emplace_back();
-        rows.back().push_back(i);
-    }
-    return rows;
-}
-
-double rowHeight(const std::vector<Size>& windows, const std::vector<std::size_t>& row) {
-    double height = 0;
-    for (std::size_t i : row)
-        height = std::max(height, windows[i].height);
-    return height;
-}
-
-// The largest common scale at which these rows fit the area with their gaps.
-double fittingScale(const std::vector<Size>& windows,
-                    const std::vector<std::vector<std::size_t>>& rows, Rect area) {
-    double scale = area.height - SimDock::gap * static_cast<double>(rows.size() - 1);
-    double heights = 0;
-    for (const auto& row : rows)
-        heights += rowHeight(windows, row);
-    scale /= std::max(heights, 1.0);
-    for (const auto& row : rows) {
-        double widths = 0;
-        for (std::size_t i : row)
-            widths += windows[i].width;
-        const double room = area.width - SimDock::gap * static_cast<double>(row.size() - 1);
-        scale = std::min(scale, room / std::max(widths, 1.0));
-    }
-    return scale;
-}
 
 std::map<std::string, AXValue> group(std::string_view identifier, std::vector<AXElement> children) {
     return {{"AXRole", std::string("AXGroup")},
@@ -135,9 +97,15 @@ void SimDock::open() {
     publishWindows();
 }
 
+void SimDock::openAppExpose() {
+    appExpose_ = true;
+    open();
+}
+
 void SimDock::close() {
     if (!open_) return;
     open_ = false;
+    appExpose_ = false;
     removeTree();
     publishWindows();
 }
@@ -168,41 +136,6 @@ Rect SimDock::thumbnailArea(Rect screen) {
     return {screen.minX() + sideMargin, screen.minY() + spacesBarHeight,
             screen.width - 2 * sideMargin,
             screen.height - spacesBarHeight - simDockHeight - bottomMargin};
-}
-
-std::vector<Rect> SimDock::layOut(const std::vector<Size>& windows, Rect area) {
-    std::vector<Rect> frames;
-    if (windows.empty()) return frames;
-    std::size_t bestColumns = 1;
-    double bestScale = 0;
-    for (std::size_t columns = 1; columns <= windows.size(); ++columns) {
-        const double scale = fittingScale(windows, rowsOf(windows.size(), columns), area);
-        if (scale > bestScale) {
-            bestScale = scale;
-            bestColumns = columns;
-        }
-    }
-    const double scale = std::min(bestScale, largestScale);
-    const auto rows = rowsOf(windows.size(), bestColumns);
-    double blockHeight = gap * static_cast<double>(rows.size() - 1);
-    for (const auto& row : rows)
-        blockHeight += rowHeight(windows, row) * scale;
-    double top = area.minY() + (area.height - blockHeight) / 2;
-    for (const auto& row : rows) {
-        double rowWidth = gap * static_cast<double>(row.size() - 1);
-        for (std::size_t i : row)
-            rowWidth += windows[i].width * scale;
-        const double height = rowHeight(windows, row) * scale;
-        double left = area.minX() + (area.width - rowWidth) / 2;
-        for (std::size_t i : row) {
-            const Size size{windows[i].width * scale, windows[i].height * scale};
-            frames.push_back(
-                rounded({left, top + (height - size.height) / 2, size.width, size.height}));
-            left += size.width + gap;
-        }
-        top += height + gap;
-    }
-    return frames;
 }
 
 std::vector<SimDock::Shown> SimDock::visibleWindows() const {
@@ -246,8 +179,9 @@ void SimDock::rebuild(const std::vector<Shown>& shown) {
 void SimDock::setHostChildren(std::vector<AXElement> displays) {
     SimAccessibility& accessibility = desktop_.accessibility();
     const bool windowManager = hostedByWindowManager();
-    missionControlNode_ = accessibility.addNode(
-        pid_, group("mc", windowManager ? std::vector<AXElement>{} : displays));
+    missionControlNode_ =
+        accessibility.addNode(pid_, group(appExpose_ ? "appexpose" : "mc",
+                                          windowManager ? std::vector<AXElement>{} : displays));
     treeNodes_.push_back(missionControlNode_);
     accessibility.applicationChildren[pid_] = {accessibility.nodeElement(barNode_),
                                                accessibility.nodeElement(missionControlNode_)};
@@ -273,8 +207,11 @@ std::vector<AXElement> SimDock::otherDesktopThumbnails(const std::vector<Rect>& 
         thumbnails.push_back(
             thumbnailNode({{"AXTitle", window.title},
                            {"AXFrame", frame},
-                           {"AXIdentifier", window.bundleIdentifier + std::string(otherSpace)},
-                           {"wid", static_cast<std::int64_t>(window.number)}}));
+                           {"AXIdentifier", window.bundleIdentifier + std::string(otherSpace)}}));
+        if (thumbnailsNameWindows) {
+            desktop_.accessibility().setNodeAttribute(treeNodes_.back(), "wid",
+                                                      static_cast<std::int64_t>(window.number));
+        }
     }
     return thumbnails;
 }
@@ -288,18 +225,19 @@ SimNodeId SimDock::makeDisplay(std::size_t screen, Rect frame, const std::vector
         sizes.push_back(window.frame.size());
         ids.push_back(window.window);
     }
-    const std::vector<Rect> frames = layOut(sizes, thumbnailArea(frame));
+    const std::vector<Rect> frames = SimThumbnailLayout::layOut(sizes, thumbnailArea(frame));
     const bool windowManager = hostedByWindowManager();
     std::vector<AXElement> thumbnails;
     for (std::size_t i = 0; i < frames.size(); ++i) {
         const SimWindow* window = desktop_.window(ids[i]);
-        std::map<std::string, AXValue> attributes{{"AXTitle", window->title},
-                                                  {"AXFrame", frames[i]}};
+        std::map<std::string, AXValue> attributes{{"AXFrame", frames[i]}};
+        const std::string title = window->serverTitle.value_or(window->title);
+        if (!title.empty()) attributes["AXTitle"] = title;
         if (windowManager) {
             const SimApplication* app = desktop_.application(window->pid);
             attributes["AXIdentifier"] =
                 (app ? app->bundleIdentifier : std::string()) + std::string(currentSpace);
-            attributes["wid"] = static_cast<std::int64_t>(window->id);
+            if (thumbnailsNameWindows) attributes["wid"] = static_cast<std::int64_t>(window->id);
         }
         thumbnails.push_back(thumbnailNode(std::move(attributes)));
         thumbnailNodes_.emplace_back(ids[i], treeNodes_.back());
@@ -377,7 +315,9 @@ void SimDock::publishWindows() {
 std::optional<AXElement> SimDock::hitTest(Point point) {
     if (!open_) return std::nullopt;
     if (auto thumbnail = thumbnailAt(point)) {
-        if (!hostedByWindowManager()) return windowPartAt(*thumbnail, point);
+        if (!hostedByWindowManager() && !hitTestAnswersThumbnail) {
+            return windowPartAt(*thumbnail, point);
+        }
         for (const auto& [window, node] : thumbnailNodes_) {
             if (window == thumbnail->window) return desktop_.accessibility().nodeElement(node);
         }

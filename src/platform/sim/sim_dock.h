@@ -68,8 +68,6 @@ class SimDock {
     static constexpr double spacesBarHeight = 90;
     static constexpr double sideMargin = 48;
     static constexpr double bottomMargin = 24;  // above the Dock, which stays visible
-    static constexpr double gap = 32;
-    static constexpr double largestScale = 0.8;
 
     explicit SimDock(SimDesktop& desktop);
     SimDock(const SimDock&) = delete;
@@ -91,11 +89,19 @@ class SimDock {
 
     // Windows of other desktops, listed by WindowManager from macOS 27 on.
     std::vector<SimOtherDesktopWindow> otherDesktop;
+    // How this Mac presents Mission Control (see SimPresentation): whether the hit-test
+    // over a thumbnail answers with the thumbnail's own button instead of the window, and
+    // whether WindowManager's thumbnails carry their window's number ("wid").
+    bool hitTestAnswersThumbnail = false;
+    bool thumbnailsNameWindows = true;
 
     // Opens Mission Control on every screen, launching the Dock first if need be.
     void open();
+    // Opens App Exposé instead: the same windows, under an "appexpose" group of the Dock.
+    void openAppExpose();
     void close();
     bool isOpen() const { return open_; }
+    bool isAppExpose() const { return open_ && appExpose_; }
 
     // The thumbnails shown, in tree order, up to date with the desktop; empty when closed.
     const std::vector<SimThumbnail>& thumbnails();
@@ -107,10 +113,6 @@ class SimDock {
     // to the front and leaves; on empty space it just leaves.
     void clicked(Point point);
 
-    // Thumbnail frames for windows of these sizes within `area`: scaled alike (never
-    // above largestScale), aspect kept, in rows of as many as give the largest scale, each
-    // row centred and the rows centred as a block. Whole points.
-    static std::vector<Rect> layOut(const std::vector<Size>& windows, Rect area);
     // The part of a screen (accessibility coordinates) that thumbnails may use.
     static Rect thumbnailArea(Rect screen);
 
@@ -141,6 +143,7 @@ class SimDock {
     Pid publishedPid_ = 0;
     Pid windowManagerPid_ = 0;
     bool open_ = false;
+    bool appExpose_ = false;
     // macOS 27's full-screen Dock window, there from the first opening on.
     bool fullScreenWindowShown_ = false;
     SimNodeId barNode_ = 0;

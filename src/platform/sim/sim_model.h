@@ -26,6 +26,10 @@ struct SimWindow {
     SimWindowId id = 0;
     Pid pid = 0;
     std::string title;
+    // The window server's title where it differs from the accessibility one: a browser's
+    // page title, which its accessibility title follows with the browser's name and profile;
+    // empty for a window the server knows no title of. Mission Control's thumbnail shows it.
+    std::optional<std::string> serverTitle;
     Rect frame;  // accessibility coordinates
     std::string subrole = "AXStandardWindow";
     bool minimized = false;

@@ -1,0 +1,90 @@
+#include "tracking/thumbnail_targets.h"
+
+#include "tracking/window_by_number.h"
+
+namespace vistrel {
+
+namespace {
+
+constexpr std::string_view titleAttribute = "AXTitle";
+
+}  // namespace
+
+MissionControlReading ThumbnailTargets::update(std::uint64_t generation, ThumbnailReader::Read read,
+                                               Pid ownPid) {
+    if (generation != generation_) {
+        generation_ = generation;
+        enumerated_ = false;
+        ties_.clear();
+    }
+    MissionControlReading reading;
+    reading.host = read.host;
+    current_.clear();
+    for (const MissionControlThumbnail& thumbnail : read.thumbnails) {
+        const Tie& tie = tieOf(thumbnail, ownPid);
+        current_.emplace_back(thumbnail.frame, static_cast<std::size_t>(&tie - ties_.data()));
+        ++reading.thumbnails;
+        if (tie.window) ++reading.mapped;
+        if (tie.refused) ++reading.refusals;
+    }
+    return reading;
+}
+
+// The tie made earlier in this opening for the same thumbnail (same title, identifier and
+// number, same shape: its frame moves while Mission Control animates), else a new one.
+const ThumbnailTargets::Tie& ThumbnailTargets::tieOf(const MissionControlThumbnail& thumbnail,
+                                                     Pid ownPid) {
+    for (const Tie& tie : ties_) {
+        if (tie.thumbnailTitle == thumbnail.title && tie.identifier == thumbnail.identifier &&
+            tie.number == thumbnail.window &&
+            ThumbnailMatch::sameShape(tie.frame, thumbnail.frame)) {
+            return tie;
+        }
+    }
+    ties_.push_back(make(thumbnail, ownPid));
+    return ties_.back();
+}
+
+ThumbnailTargets::Tie ThumbnailTargets::make(const MissionControlThumbnail& thumbnail, Pid ownPid) {
+    Tie tie{
+        thumbnail.title, thumbnail.identifier, thumbnail.window, thumbnail.frame, {}, {}, false};
+    if (thumbnail.window != 0) {
+        tie.window = WindowByNumber::find(thumbnail.window, thumbnail.element);
+        if (tie.window && tie.window->pid == ownPid) tie.window.reset();
+        if (tie.window)
+            tie.windowTitle = AX::string(tie.window->window, titleAttribute).value_or("");
+        return tie;
+    }
+    if (!enumerated_) {
+        catalog_.enumerate(ownPid);
+        enumerated_ = true;
+    }
+    ThumbnailMatch::Thumbnail facts{thumbnail.title, std::nullopt, thumbnail.frame,
+                                    thumbnail.display};
+    if (thumbnail.identifier)
+        facts.bundleIdentifier = ThumbnailMatch::bundleOfIdentifier(*thumbnail.identifier);
+    const ThumbnailMatch::Fit fit = ThumbnailMatch::fit(facts, catalog_.facts());
+    tie.refused = fit.refused;
+    if (fit.window) {
+        tie.window = catalog_.window(*fit.window);
+        tie.windowTitle = catalog_.facts()[*fit.window].title;
+    }
+    return tie;
+}
+
+std::optional<AX::WindowHit> ThumbnailTargets::at(Point point, std::uint64_t generation) const {
+    if (generation != generation_) return std::nullopt;
+    const std::pair<Rect, std::size_t>* winner = nullptr;
+    for (const auto& entry : current_) {
+        if (entry.first.contains(point) && (!winner || entry.first.area() < winner->first.area())) {
+            winner = &entry;
+        }
+    }
+    if (!winner) return std::nullopt;
+    const Tie& tie = ties_[winner->second];
+    if (!tie.window) return std::nullopt;
+    if (AX::string(tie.window->window, titleAttribute) != tie.windowTitle) return std::nullopt;
+    return tie.window;
+}
+
+}  // namespace vistrel
