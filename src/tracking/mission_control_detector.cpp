@@ -1,5 +1,9 @@
 #include "tracking/mission_control_detector.h"
 
+#include <optional>
+#include <variant>
+#include <vector>
+
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
@@ -21,11 +25,21 @@ bool isMissionControlWindow(const WindowDescription& window) {
            window.layer.value_or(0) == MissionControlDetector::missionControlLayer;
 }
 
-// Whether the Dock's tree is worth reading: a Dock window on layer 18 (Mission Control or
-// App Exposé up to macOS 26) or a system whose Mission Control never shows one.
-bool worthReadingTheDock() {
-    return MissionControlHosts::running() == MissionControlHost::windowManager ||
-           MissionControlDetector::windowListShowsMissionControl();
+// Whether the Dock lists an "mc" group; nothing when it did not answer in time.
+std::optional<bool> dockAnswer(ApplicationElement& dock) {
+    const auto element = dock.get();
+    if (!element) return false;
+    AXValue read;
+    const AXError error = platform().accessibility.copyAttribute(*element, children, read);
+    if (error == AXError::cannotComplete) return std::nullopt;
+    const auto* list = std::get_if<std::vector<AXElement>>(&read);
+    if (error != AXError::success || !list) return false;
+    for (const AXElement& child : *list) {
+        if (AX::string(child, identifier) == ThumbnailReader::missionControlIdentifier) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool onboardingCompleted() {
@@ -37,9 +51,14 @@ bool onboardingCompleted() {
 }  // namespace
 
 bool MissionControlDetector::isMissionControlOpen() {
-    if (!worthReadingTheDock()) return false;
+    const bool listed = windowListShowsMissionControl();
+    if (!listed && !readsTheDockUnlisted()) return false;
     ApplicationElement dock(ThumbnailReader::dockBundleIdentifier, ThumbnailReader::dockTimeout);
-    return dockShowsMissionControl(dock);
+    return dockAnswer(dock).value_or(listed);
+}
+
+bool MissionControlDetector::readsTheDockUnlisted() {
+    return MissionControlHosts::running() == MissionControlHost::windowManager;
 }
 
 bool MissionControlDetector::windowListShowsMissionControl() {
@@ -55,14 +74,7 @@ bool MissionControlDetector::windowListShowsMissionControl() {
 // "appexpose" (App Exposé: the windows of one application) and its other children do not
 // count, so App Exposé is not Mission Control.
 bool MissionControlDetector::dockShowsMissionControl(ApplicationElement& dock) {
-    const auto element = dock.get();
-    if (!element) return false;
-    for (const AXElement& child : AX::elements(*element, children)) {
-        if (AX::string(child, identifier) == ThumbnailReader::missionControlIdentifier) {
-            return true;
-        }
-    }
-    return false;
+    return dockAnswer(dock).value_or(false);
 }
 
 double MissionControlDetector::nextInterval(bool trusted, bool open, bool onboarded) {
@@ -79,15 +91,17 @@ void MissionControlDetector::schedule(double interval) {
 
 void MissionControlDetector::tick() {
     const bool trusted = platform().accessibility.isProcessTrusted();
-    if (trusted && worthReadingTheDock()) {
-        readInBackground();
+    const bool listed = trusted && windowListShowsMissionControl();
+    if (trusted && (listed || readsTheDockUnlisted())) {
+        readInBackground(listed);
         return;
     }
     report(trusted, false);
 }
 
-// One read in flight at most: the next poll is armed only when its answer is back.
-void MissionControlDetector::readInBackground() {
+// One read in flight at most: the next poll is armed only when its answer is back. A Dock
+// that does not answer in time leaves the window list's answer standing.
+void MissionControlDetector::readInBackground(bool listed) {
     if (!queue_) {
         queue_ = platform().executor.makeQueue(std::string(queueLabel),
                                                QualityOfService::userInteractive);
@@ -95,8 +109,8 @@ void MissionControlDetector::readInBackground() {
                                                      ThumbnailReader::dockTimeout);
     }
     std::weak_ptr<int> alive = alive_;
-    queue_->async([this, alive, dock = dock_] {
-        const bool open = dockShowsMissionControl(*dock);
+    queue_->async([this, alive, dock = dock_, listed] {
+        const bool open = dockAnswer(*dock).value_or(listed);
         platform().executor.main().async([this, alive, open] {
             if (alive.lock()) report(true, open);
         });

@@ -63,7 +63,10 @@ class MissionControlDetector {
   private:
     void tick();
     // Hands the Dock's answer to the listener on the main thread once read on the queue.
-    void readInBackground();
+    void readInBackground(bool listed);
+    // Whether the Dock's tree is read without a layer-18 window: on systems whose Mission
+    // Control never shows one (macOS 27 on).
+    static bool readsTheDockUnlisted();
     void report(bool trusted, bool open);
 
     // The timer's closure holds this token weakly instead of the detector: once the

@@ -279,12 +279,21 @@ TEST_F(EngineTest, HoveringTheAgentsOwnWindowShowsNoStrip) {
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineTest, HoveringADockElementShowsNoStrip) {
+TEST_F(EngineTest, HoveringADockElementTakesTheThumbnailsWindowNotTheDock) {
     openMissionControl();
     const Rect notes = thumbOf("Notes");
     const AXElement dockElement = desktop.accessibility().application(desktop.dock().pid());
     desktop.accessibility().hitTestOverride = [dockElement](Point) { return dockElement; };
     move(inside(notes));
+    ASSERT_TRUE(engine->target());
+    EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Notes")));
+}
+
+TEST_F(EngineTest, HoveringADockElementOverNoThumbnailShowsNoStrip) {
+    openMissionControl();
+    const AXElement dockElement = desktop.accessibility().application(desktop.dock().pid());
+    desktop.accessibility().hitTestOverride = [dockElement](Point) { return dockElement; };
+    move({720, 20});
     EXPECT_FALSE(engine->target());
 }
 

@@ -32,8 +32,8 @@ class QuitDuringRestoreTest : public LayoutsScenario, public ::testing::WithPara
     }
 
     void restoreWhileFinderQuits(int afterCalls) {
-        desktop.accessibility().quitsAfterCalls[finder] = afterCalls;
         openMissionControl();
+        desktop.accessibility().quitsAfterCalls[finder] = afterCalls;
         EXPECT_FALSE(key(digitOne, command));
         desktop.executor().advance(5);
     }

@@ -76,17 +76,21 @@ TEST_F(ThumbnailReaderTest, MissionControlClosedGivesNothing) {
 }
 
 // One walk reads "AXChildren" of every node it visits (the Dock, "mc", each display and
-// each "mc.windows" group), "AXIdentifier" of the Dock's children and of each display's
-// children, and "AXFrame" of every thumbnail. The simulated Dock has two children (its
-// bar and "mc"), one display with two children ("mc.spaces" and "mc.windows").
+// each "mc.windows" group), "AXIdentifier" of the Dock's children, of each display's
+// children and of every thumbnail, "AXFrame" of each display holding thumbnails and of
+// every thumbnail, and "AXTitle" of every thumbnail. The simulated Dock has two children
+// (its bar and "mc"), one display with two children ("mc.spaces" and "mc.windows").
 void expectReadsOfOneWalk(SimAccessibility& ax, std::size_t thumbnails) {
     constexpr std::size_t nodesVisited = 4;
     constexpr std::size_t dockChildren = 2;
     constexpr std::size_t displayChildren = 2;
+    constexpr std::size_t displays = 1;
     EXPECT_EQ(ax.attributeReads("AXChildren"), nodesVisited);
-    EXPECT_EQ(ax.attributeReads("AXIdentifier"), dockChildren + displayChildren);
-    EXPECT_EQ(ax.attributeReads("AXFrame"), thumbnails);
-    EXPECT_EQ(ax.attributeReads(), nodesVisited + dockChildren + displayChildren + thumbnails);
+    EXPECT_EQ(ax.attributeReads("AXIdentifier"), dockChildren + displayChildren + thumbnails);
+    EXPECT_EQ(ax.attributeReads("AXFrame"), displays + thumbnails);
+    EXPECT_EQ(ax.attributeReads("AXTitle"), thumbnails);
+    EXPECT_EQ(ax.attributeReads(), nodesVisited + dockChildren + displayChildren + displays +
+                                       3 * thumbnails);
 }
 
 class ThumbnailReadCount : public ThumbnailReaderTest, public ::testing::WithParamInterface<int> {};

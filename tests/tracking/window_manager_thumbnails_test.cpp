@@ -101,21 +101,23 @@ TEST_F(WindowManagerThumbnailsTest, WindowNumberReadsFromAnIntegerOrAWholeFloati
     EXPECT_FALSE(numbered(std::string("4117")));
 }
 
-TEST_F(WindowManagerThumbnailsTest, TheDocksOwnMissionControlGroupHoldsNothing) {
+// macOS told 26 to a program linked against an older SDK; the Dock's empty "mc" stub then
+// sends the reader on to WindowManager, which holds the displays.
+TEST_F(WindowManagerThumbnailsTest, AnOlderVersionToldStillFindsWindowManagersThumbnails) {
     desktop.dock().open();
     ThumbnailReader dockReader;
-    // Read the Dock's way, macOS 27's tree has no thumbnails under the Dock.
-    desktop.systemInfo().version = {26, 0, 0};
-    EXPECT_TRUE(dockReader.frames().empty());
-    desktop.systemInfo().version = {27, 0, 0};
+    desktop.systemInfo().version = {16, 0, 0};
+    const ThumbnailReader::Read read = dockReader.read();
+    EXPECT_EQ(read.host, MissionControlHost::windowManager);
     EXPECT_EQ(dockReader.frames(), simulatedFrames());
     EXPECT_EQ(dockReader.dockPid(), desktop.dock().windowManagerPid());
 }
 
-// One read asks WindowManager for its children, each display for its identifier and its
-// children, each child of a display for its "wid", and each current thumbnail for its frame;
-// and the window server once for the on-screen list.
-TEST_F(WindowManagerThumbnailsTest, OneReadCostsTwoCallsPerThumbnailAndOneWindowList) {
+// One read asks WindowManager for its children, each display for its identifier, its frame
+// and its children, each child of a display for its "wid", each child not of another
+// desktop for its identifier, and each current thumbnail for its frame and title; and the
+// window server once for the on-screen list.
+TEST_F(WindowManagerThumbnailsTest, OneReadCostsFourCallsPerThumbnailAndOneWindowList) {
     for (int i = 0; i < 54; ++i) {
         SimWindow window;
         window.title = "Page " + std::to_string(i);
@@ -131,9 +133,12 @@ TEST_F(WindowManagerThumbnailsTest, OneReadCostsTwoCallsPerThumbnailAndOneWindow
     EXPECT_EQ(reader.read().size(), shown);
     const std::size_t spacesGroup = 1;
     EXPECT_EQ(desktop.accessibility().attributeReads("wid"), shown + others + spacesGroup);
-    EXPECT_EQ(desktop.accessibility().attributeReads("AXFrame"), shown);
+    const std::size_t display = 1;
+    EXPECT_EQ(desktop.accessibility().attributeReads("AXFrame"), shown + display);
+    EXPECT_EQ(desktop.accessibility().attributeReads("AXTitle"), shown);
     EXPECT_EQ(desktop.accessibility().attributeReads("AXChildren"), 2u);
-    EXPECT_EQ(desktop.accessibility().attributeReads("AXIdentifier"), 1u);
+    EXPECT_EQ(desktop.accessibility().attributeReads("AXIdentifier"),
+              display + shown + spacesGroup);
     EXPECT_EQ(desktop.windowServer().listQueries() - listsBefore, 1);
 }
 
