@@ -194,7 +194,9 @@ TEST_P(PresentationStoryTest, TwoWindowsAlikeInTitleAndShapeAreNeverConfused) {
     for (SimWindowId id : {first, second}) {
         EXPECT_EQ(targetOver(id), toldApart ? std::optional(id) : std::nullopt) << id;
     }
-    if (!toldApart) EXPECT_EQ(engine->lastReading().refusals, 2);
+    if (!toldApart) {
+        EXPECT_EQ(engine->lastReading().refusals, 2);
+    }
 }
 
 TEST_P(PresentationStoryTest, TwoWindowsOfOneTitleAreToldApartByTheirShape) {
