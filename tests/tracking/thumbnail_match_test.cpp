@@ -94,6 +94,12 @@ TEST(ThumbnailMatch, AnEqualTitleWinsOverOneThatBeginsWithIt) {
               (Fit{1, false}));
 }
 
+TEST(ThumbnailMatch, ATitleFoundInsideAnotherWindowsTitleDoesNotFit) {
+    const std::vector<Window> windows{{"My Notes", "a", {0, 0, 800, 600}}};
+    EXPECT_EQ(ThumbnailMatch::fit({"Notes", std::nullopt, {0, 0, 80, 60}, std::nullopt}, windows),
+              Fit{});
+}
+
 TEST(ThumbnailMatch, TwoWindowsBeginningWithTheTitleAreRefused) {
     const std::vector<Window> windows{{"Doc - Google Chrome - Work", "c", {0, 0, 800, 600}},
                                       {"Doc - Google Chrome - Home", "c", {0, 0, 800, 600}}};
