@@ -9,6 +9,7 @@
 #include "tracking/mission_control_detector.h"
 #include "tracking/mission_control_host.h"
 #include "tracking/thumbnail_reader.h"
+#include "tracking/window_catalog.h"
 #include "tracking/window_manager_thumbnails.h"
 
 namespace vistrel::MissionControlCapture {
@@ -78,6 +79,56 @@ json process(std::string_view bundleIdentifier, float timeout, bool withTitles) 
     return {{"pid", application.pid()}, {"groups", std::move(groups)}};
 }
 
+json thumbnails(const ThumbnailReader::Read& read, bool withTitles) {
+    json list = json::array();
+    for (const MissionControlThumbnail& thumbnail : read.thumbnails) {
+        json entry{{"frame", rectangle(thumbnail.frame)}};
+        if (thumbnail.window != 0) entry["wid"] = thumbnail.window;
+        if (thumbnail.identifier) entry["identifier"] = *thumbnail.identifier;
+        if (withTitles && thumbnail.title) entry["title"] = *thumbnail.title;
+        list.push_back(std::move(entry));
+    }
+    return list;
+}
+
+// What the system-wide hit-test answers at each thumbnail's centre: up to macOS 26 some
+// systems answer with the application's window, others with the Dock's button.
+json hitTests(const ThumbnailReader::Read& read, bool withTitles) {
+    json list = json::array();
+    for (const MissionControlThumbnail& thumbnail : read.thumbnails) {
+        const Point centre = thumbnail.frame.mid();
+        json entry{{"point", json::array({centre.x, centre.y})}};
+        if (const auto hit = AX::elementAt(centre)) {
+            if (auto role = AX::string(*hit, AX::role)) entry["role"] = *role;
+            if (auto subrole = AX::string(*hit, "AXSubrole")) entry["subrole"] = *subrole;
+            Pid pid = 0;
+            if (platform().accessibility.pid(*hit, pid) == AXError::success) entry["pid"] = pid;
+            entry["hasWindow"] = AX::element(*hit, AX::windowAttribute).has_value();
+            if (withTitles) {
+                if (auto title = AX::string(*hit, "AXTitle")) entry["title"] = *title;
+            }
+        }
+        list.push_back(std::move(entry));
+    }
+    return list;
+}
+
+// The regular applications' windows as the agent enumerates them to tie thumbnails.
+json applicationWindows(bool withTitles) {
+    WindowCatalog catalog;
+    catalog.enumerate(platform().workspace.ownPid());
+    json list = json::array();
+    for (std::size_t i = 0; i < catalog.facts().size(); ++i) {
+        const ThumbnailMatch::Window& window = catalog.facts()[i];
+        json entry{{"pid", catalog.window(i).pid},
+                   {"bundle", window.bundleIdentifier},
+                   {"frame", rectangle(window.frame)}};
+        if (withTitles) entry["title"] = window.title;
+        list.push_back(std::move(entry));
+    }
+    return list;
+}
+
 json windowList() {
     json windows = json::array();
     const auto list = platform().windowServer.windowList(WindowListOption::onScreenOnly);
@@ -105,21 +156,43 @@ void finish(const std::function<void(Outcome)>& done, Outcome outcome) {
     platform().executor.main().async([done, outcome] { done(outcome); });
 }
 
-void poll(std::shared_ptr<SerialQueue> queue, Request request, double deadline,
-          std::function<void(Outcome)> done) {
-    if (MissionControlDetector::isMissionControlOpen()) {
-        finish(done, write(request));
+// One wait of the capture on its queue: for Mission Control to open, then for its
+// thumbnails to stand still. Each step counts down, so the wait ends however the clock moves.
+struct Wait {
+    std::shared_ptr<SerialQueue> queue;
+    Request request;
+    std::function<void(Outcome)> done;
+    int pollsLeft = static_cast<int>(waitLimit / pollInterval);
+    int settlesLeft = static_cast<int>(settleLimit / settleInterval);
+    std::optional<std::vector<Rect>> lastFrames;
+};
+
+void step(std::shared_ptr<Wait> wait);
+
+void again(std::shared_ptr<Wait> wait, double seconds) {
+    SerialQueue& queue = *wait->queue;
+    queue.after(seconds, [wait = std::move(wait)]() mutable { step(std::move(wait)); });
+}
+
+void step(std::shared_ptr<Wait> wait) {
+    if (!wait->lastFrames) {
+        if (MissionControlDetector::isMissionControlOpen()) {
+            wait->lastFrames = ThumbnailReader().frames();
+            again(std::move(wait), settleInterval);
+        } else if (--wait->pollsLeft < 0) {
+            finish(wait->done, Outcome::neverOpened);
+        } else {
+            again(std::move(wait), pollInterval);
+        }
         return;
     }
-    if (platform().clock.now() >= deadline) {
-        finish(done, Outcome::neverOpened);
+    std::vector<Rect> frames = ThumbnailReader().frames();
+    if (frames == *wait->lastFrames || --wait->settlesLeft <= 0) {
+        finish(wait->done, write(wait->request));
         return;
     }
-    SerialQueue& next = *queue;
-    next.after(pollInterval, [queue = std::move(queue), request = std::move(request), deadline,
-                              done = std::move(done)]() mutable {
-        poll(std::move(queue), std::move(request), deadline, std::move(done));
-    });
+    wait->lastFrames = std::move(frames);
+    again(std::move(wait), settleInterval);
 }
 
 }  // namespace
@@ -137,12 +210,16 @@ std::optional<Request> requested(const std::vector<std::string>& arguments) {
 
 json snapshot(bool withTitles) {
     const OperatingSystemVersion version = platform().systemInfo.operatingSystemVersion();
-    const bool windowManager =
-        MissionControlHosts::forVersion(version) == MissionControlHost::windowManager;
+    const ThumbnailReader::Read read = ThumbnailReader().read();
+    const MissionControlHost host = read.host.value_or(MissionControlHosts::forVersion(version));
     return {
         {"system", {{"major", version.major}, {"minor", version.minor}, {"patch", version.patch}}},
-        {"missionControlHost", windowManager ? "WindowManager" : "Dock"},
+        {"missionControlHost",
+         host == MissionControlHost::windowManager ? "WindowManager" : "Dock"},
         {"titles", withTitles},
+        {"thumbnails", thumbnails(read, withTitles)},
+        {"hitTests", hitTests(read, withTitles)},
+        {"applications", applicationWindows(withTitles)},
         {"dock",
          process(ThumbnailReader::dockBundleIdentifier, ThumbnailReader::dockTimeout, withTitles)},
         {"windowManager", process(WindowManagerThumbnails::bundleIdentifier,
@@ -156,13 +233,17 @@ void start(const Request& request, std::function<void(Outcome)> done) {
         finish(done, Outcome::noFile);
         return;
     }
-    auto queue =
+    if (!platform().accessibility.isProcessTrusted()) {
+        finish(done, Outcome::notTrusted);
+        return;
+    }
+    auto wait = std::make_shared<Wait>();
+    wait->queue =
         platform().executor.makeQueue(std::string(queueLabel), QualityOfService::userInitiated);
-    const double deadline = platform().clock.now() + waitLimit;
-    SerialQueue& first = *queue;
-    first.async([queue = std::move(queue), request, deadline, done = std::move(done)]() mutable {
-        poll(std::move(queue), std::move(request), deadline, std::move(done));
-    });
+    wait->request = request;
+    wait->done = std::move(done);
+    SerialQueue& first = *wait->queue;
+    first.async([wait = std::move(wait)]() mutable { step(std::move(wait)); });
 }
 
 std::string message(Outcome outcome, const Request& request) {
@@ -173,6 +254,9 @@ std::string message(Outcome outcome, const Request& request) {
             return "mission control: did not open within a minute, nothing written";
         case Outcome::notWritten:
             return "mission control: could not write " + request.path;
+        case Outcome::notTrusted:
+            return "mission control: no Accessibility permission (run from a terminal, the "
+                   "terminal needs it), nothing written";
         case Outcome::noFile:
             break;
     }

@@ -56,11 +56,12 @@ class MissionControlCaptureTest : public testing::SimTest {
         MissionControlCapture::start(request, [this](Outcome result) { outcome = result; });
     }
 
-    // Runs a capture with Mission Control open: it is written without waiting.
+    // Runs a capture with Mission Control open: it is written once the thumbnails stood
+    // still for a tenth of a second.
     void captureOpen() {
         desktop.dock().open();
         start();
-        desktop.executor().runUntilIdle();
+        desktop.executor().advance(MissionControlCapture::settleInterval);
     }
 
     json written() { return json::parse(testing::readFile(request.path)); }
@@ -70,8 +71,12 @@ class MissionControlCaptureTest : public testing::SimTest {
     std::optional<Outcome> outcome;
 };
 
-TEST_F(MissionControlCaptureTest, OpenMissionControlIsWrittenAtOnce) {
-    captureOpen();
+TEST_F(MissionControlCaptureTest, OpenMissionControlIsWrittenOnceTheThumbnailsStandStill) {
+    desktop.dock().open();
+    start();
+    desktop.executor().runUntilIdle();
+    EXPECT_FALSE(outcome) << "one read cannot tell that the thumbnails stand still";
+    desktop.executor().advance(MissionControlCapture::settleInterval);
     ASSERT_EQ(outcome, Outcome::written);
     const json capture = written();
     EXPECT_EQ(capture["system"], json({{"major", 27}, {"minor", 0}, {"patch", 1}}));
@@ -89,8 +94,55 @@ TEST_F(MissionControlCaptureTest, WaitsForMissionControlToOpen) {
     EXPECT_FALSE(outcome);
     EXPECT_FALSE(std::filesystem::exists(request.path));
     desktop.dock().open();
-    desktop.executor().advance(MissionControlCapture::pollInterval);
+    desktop.executor().advance(MissionControlCapture::pollInterval +
+                               MissionControlCapture::settleInterval);
     EXPECT_EQ(outcome, Outcome::written);
+}
+
+TEST_F(MissionControlCaptureTest, MovingThumbnailsAreWaitedForAtMostASecond) {
+    desktop.dock().open();
+    start();
+    desktop.executor().runUntilIdle();
+    SimWindow& moving = *desktop.window(desktop.windows().front().id);
+    for (int step = 0; step < 9; ++step) {
+        moving.frame.width -= 40;
+        desktop.executor().advance(MissionControlCapture::settleInterval);
+        ASSERT_FALSE(outcome) << "still moving after " << step + 1 << " tenths";
+    }
+    moving.frame.width -= 40;
+    desktop.executor().advance(MissionControlCapture::settleInterval);
+    EXPECT_EQ(outcome, Outcome::written);
+}
+
+TEST_F(MissionControlCaptureTest, WithoutTheAccessibilityPermissionNothingIsWaitedFor) {
+    desktop.trusted = false;
+    start();
+    desktop.executor().runUntilIdle();
+    EXPECT_EQ(outcome, Outcome::notTrusted);
+    EXPECT_FALSE(std::filesystem::exists(request.path));
+    EXPECT_EQ(MissionControlCapture::message(*outcome, request),
+              "mission control: no Accessibility permission (run from a terminal, the terminal "
+              "needs it), nothing written");
+}
+
+TEST_F(MissionControlCaptureTest, RecordsTheThumbnailsTheHitTestsAndTheApplicationsWindows) {
+    request.withTitles = true;
+    captureOpen();
+    const json capture = written();
+    ASSERT_EQ(capture["thumbnails"].size(), capture["hitTests"].size());
+    ASSERT_FALSE(capture["thumbnails"].empty());
+    const json& hit = capture["hitTests"][0];
+    EXPECT_EQ(hit["role"], "AXButton") << "WindowManager's thumbnail answers";
+    EXPECT_EQ(hit["hasWindow"], false);
+    EXPECT_EQ(hit["pid"], desktop.dock().windowManagerPid());
+    EXPECT_TRUE(capture["thumbnails"][0].contains("identifier"));
+    bool startPage = false;
+    for (const json& window : capture["applications"]) {
+        if (window["title"] == "Start Page") {
+            startPage = window["bundle"] == "com.apple.Safari";
+        }
+    }
+    EXPECT_TRUE(startPage);
 }
 
 TEST_F(MissionControlCaptureTest, GivesUpAfterAMinuteWritingNothing) {
@@ -113,7 +165,7 @@ TEST_F(MissionControlCaptureTest, TitlesAndWindowNamesStayOutUnlessAskedFor) {
 
     request.withTitles = true;
     start();
-    desktop.executor().runUntilIdle();
+    desktop.executor().advance(MissionControlCapture::settleInterval);
     EXPECT_NE(testing::readFile(request.path).find("\"title\": \"Start Page\""), std::string::npos);
     EXPECT_EQ(testing::readFile(request.path).find("\"name\""), std::string::npos);
 }
@@ -136,7 +188,7 @@ TEST_F(MissionControlCaptureTest, UnwritableFileOrNoFileIsSaidPlainly) {
     desktop.dock().open();
     request.path = (folder.path() / "missing" / "mc.json").string();
     start();
-    desktop.executor().runUntilIdle();
+    desktop.executor().advance(MissionControlCapture::settleInterval);
     EXPECT_EQ(outcome, Outcome::notWritten);
     EXPECT_EQ(MissionControlCapture::message(*outcome, request),
               "mission control: could not write " + request.path);

@@ -31,10 +31,14 @@
 namespace {
 
 // `Vistrel --capture-mission-control FILE`: the core waits for Mission Control and writes
-// the file; the main queue runs until it reports, then the process exits.
+// the file; the main queue runs until it reports, then the process exits. The wait is
+// delayed work on the capture's own queue (dispatch_after), a bounded number of times, so
+// the main thread sleeps in dispatch_main rather than spinning. The prompt is flushed at
+// once: when the output goes to a pipe it would otherwise show only at the end.
 [[noreturn]] void capture(const vistrel::MissionControlCapture::Request& request) {
     using vistrel::MissionControlCapture::Outcome;
     std::puts("mission control: open Mission Control within a minute to capture it");
+    std::fflush(stdout);
     vistrel::MissionControlCapture::start(request, [request](Outcome outcome) {
         std::puts(vistrel::MissionControlCapture::message(outcome, request).c_str());
         std::exit(outcome == Outcome::written ? EXIT_SUCCESS : EXIT_FAILURE);
