@@ -178,15 +178,10 @@ void Engine::lookUp(Point point) {
     axQueue_->async([job = &job] { runHitTest(*job); });
 }
 
-// On the hover queue. The hit-test's window comes first where it answers with one (up to
-// macOS 26 on some systems); else the window tied to the thumbnail under the point.
+// On the hover queue.
 void Engine::runHitTest(HitTest& job) {
     job.candidate.reset();
-    auto hit = AX::hitWindow(job.point);
-    if (!hit || hit->pid == job.ownPid || hit->pid == job.dockPid) {
-        hit = job.targets->at(job.point, job.generation);
-    }
-    if (hit) {
+    if (const auto hit = job.targets->hovered(job.point, job.generation, job.ownPid, job.dockPid)) {
         job.candidate =
             Target{hit->window, hit->pid, AX::availableButtons(hit->window, job.maximizeMode)};
     }

@@ -87,4 +87,11 @@ std::optional<AX::WindowHit> ThumbnailTargets::at(Point point, std::uint64_t gen
     return tie.window;
 }
 
+std::optional<AX::WindowHit> ThumbnailTargets::hovered(Point point, std::uint64_t generation,
+                                                       Pid ownPid, Pid hostPid) const {
+    auto hit = AX::hitWindow(point);
+    if (hit && hit->pid != ownPid && hit->pid != hostPid) return hit;
+    return at(point, generation);
+}
+
 }  // namespace vistrel

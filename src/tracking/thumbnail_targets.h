@@ -30,6 +30,12 @@ class ThumbnailTargets {
     // (the earlier one on equal areas); nothing when it has none or its title changed.
     std::optional<AX::WindowHit> at(Point point, std::uint64_t generation) const;
 
+    // The window under the pointer as the agent acts on it: the hit-test's window where it
+    // answers with one of another process than the agent and Mission Control's host (up to
+    // macOS 26 on some systems), else the window tied to the thumbnail under the point.
+    std::optional<AX::WindowHit> hovered(Point point, std::uint64_t generation, Pid ownPid,
+                                         Pid hostPid) const;
+
   private:
     struct Tie {
         std::optional<std::string> thumbnailTitle;

@@ -1,6 +1,6 @@
 // Every capture of a real Mac's Mission Control in this folder, replayed as a scene: the
 // agent sees Mission Control open, reads every thumbnail of the current desktop with its
-// frame, and finds at each thumbnail's centre the window the thumbnail shows.
+// frame, finds at each thumbnail's centre the window the thumbnail shows, and hovers it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,6 +17,7 @@
 #include "tracking/ax.h"
 #include "tracking/mission_control_detector.h"
 #include "tracking/thumbnail_reader.h"
+#include "tracking/thumbnail_targets.h"
 
 namespace vistrel {
 namespace {
@@ -101,6 +102,26 @@ TEST_P(CaptureReplayTest, PointerAtEachThumbnailsCentreResolvesToItsWindow) {
         SCOPED_TRACE(::testing::Message()
                      << "thumbnail at " << thumbnail.thumbnail.x << ", " << thumbnail.thumbnail.y);
         const auto hit = AX::windowAt(thumbnail.thumbnail.mid());
+        ASSERT_TRUE(hit);
+        EXPECT_EQ(hit->pid, thumbnail.pid);
+        EXPECT_EQ(AX::frame(hit->window), thumbnail.window);
+    }
+}
+
+// What the agent itself would hover: the thumbnails read, tied to windows once, and the
+// hover queue's answer at each thumbnail's centre.
+TEST_P(CaptureReplayTest, TheAgentHoversEachThumbnailsOwnWindow) {
+    ThumbnailReader reader;
+    ThumbnailReader::Read read = reader.read();
+    ASSERT_TRUE(read.host);
+    ThumbnailTargets targets;
+    const MissionControlReading reading = targets.update(1, std::move(read), desktop.ownPid);
+    EXPECT_EQ(static_cast<std::size_t>(reading.mapped), expected.size());
+    for (const Expected& thumbnail : expected) {
+        SCOPED_TRACE(::testing::Message()
+                     << "thumbnail at " << thumbnail.thumbnail.x << ", " << thumbnail.thumbnail.y);
+        const auto hit =
+            targets.hovered(thumbnail.thumbnail.mid(), 1, desktop.ownPid, reader.dockPid());
         ASSERT_TRUE(hit);
         EXPECT_EQ(hit->pid, thumbnail.pid);
         EXPECT_EQ(AX::frame(hit->window), thumbnail.window);

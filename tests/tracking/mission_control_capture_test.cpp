@@ -6,11 +6,13 @@
 #include <optional>
 
 #include "platform/sim/sim_capture_scene.h"
+#include "platform/sim/sim_presentation.h"
 #include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "support/temp_dir.h"
 #include "tracking/ax.h"
 #include "tracking/thumbnail_reader.h"
+#include "tracking/thumbnail_targets.h"
 
 namespace vistrel {
 namespace {
@@ -219,6 +221,50 @@ TEST_F(MissionControlCaptureTest, CaptureReplaysAsTheSameMissionControl) {
         EXPECT_TRUE(AX::frame(hit->window));
     }
 }
+
+// Each way a Mac presents Mission Control, captured with titles and replayed on a fresh
+// desktop, lets the agent hover the same window at every thumbnail's centre.
+class CaptureRoundTripTest : public MissionControlCaptureTest,
+                             public ::testing::WithParamInterface<SimPresentation> {};
+
+std::vector<std::pair<Pid, Rect>> hoveredAtEveryCentre(Pid ownPid) {
+    ThumbnailReader reader;
+    ThumbnailReader::Read read = reader.read();
+    std::vector<Rect> frames;
+    for (const MissionControlThumbnail& thumbnail : read.thumbnails)
+        frames.push_back(thumbnail.frame);
+    ThumbnailTargets targets;
+    targets.update(1, std::move(read), ownPid);
+    std::vector<std::pair<Pid, Rect>> hovered;
+    for (const Rect& frame : frames) {
+        const auto hit = targets.hovered(frame.mid(), 1, ownPid, reader.dockPid());
+        hovered.emplace_back(hit ? hit->pid : 0,
+                             hit ? AX::frame(hit->window).value_or(Rect{}) : Rect{});
+    }
+    return hovered;
+}
+
+TEST_P(CaptureRoundTripTest, TheReplayHoversWhatTheCapturedMacHovers) {
+    present(desktop, GetParam());
+    request.withTitles = true;
+    captureOpen();
+    ASSERT_EQ(outcome, Outcome::written);
+    const auto original = hoveredAtEveryCentre(desktop.ownPid);
+    ASSERT_FALSE(original.empty());
+
+    SimDesktop replay;
+    ScopedPlatform installed(replay);
+    std::string error;
+    ASSERT_TRUE(loadCapturedScene(replay, testing::readFile(request.path), error)) << error;
+    const auto replayed = hoveredAtEveryCentre(replay.ownPid);
+    EXPECT_EQ(replayed, original);
+}
+
+INSTANTIATE_TEST_SUITE_P(Presentations, CaptureRoundTripTest,
+                         ::testing::ValuesIn(everyPresentation),
+                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
+                             return std::string(name(info.param));
+                         });
 
 }  // namespace
 }  // namespace vistrel

@@ -68,9 +68,11 @@ class CaptureLoader {
                     facts_.gather(group);
             }
         }
+        enumerated_ = capture.value("applications", json::array());
         addApplications(capture.at("windows"));
         addProcessTree(capture, "dock", "com.apple.dock", "Dock");
         addProcessTree(capture, "windowManager", "com.apple.WindowManager", "WindowManager");
+        recordHitTests(capture.value("hitTests", json::array()));
         answerHitTests();
     }
 
@@ -94,6 +96,7 @@ class CaptureLoader {
             SimWindow window;
             window.frame = *bounds;
             if (facts_.titles.contains(number)) window.title = facts_.titles[number];
+            if (auto title = enumeratedTitle(pid, *bounds)) window.title = *title;
             windowIds_[number] = desktop_.addWindow(pids[pid], std::move(window));
         }
     }
@@ -106,6 +109,12 @@ class CaptureLoader {
         for (const auto& entry : facts_.bundles) {
             if (ownerOfBundleMatches(entry.second, owner))
                 application.bundleIdentifier = entry.second;
+        }
+        for (const json& window : enumerated_) {
+            if (window.value("pid", 0) == pid && window.contains("bundle") &&
+                window["bundle"].is_string()) {
+                application.bundleIdentifier = window["bundle"].get<std::string>();
+            }
         }
         return desktop_.addApplication(std::move(application));
     }
@@ -181,11 +190,49 @@ class CaptureLoader {
         return accessibility.nodeElement(id);
     }
 
-    // The override outlives the loader: it keeps its own copy of the nodes.
+    // The title the agent read of the window of this process at these bounds, when the
+    // capture enumerated the applications' windows with their titles.
+    std::optional<std::string> enumeratedTitle(Pid pid, Rect bounds) const {
+        for (const json& window : enumerated_) {
+            if (window.value("pid", 0) == pid &&
+                rectangleOf(window.value("frame", json())) == bounds && window.contains("title") &&
+                window["title"].is_string()) {
+                return window["title"].get<std::string>();
+            }
+        }
+        return std::nullopt;
+    }
+
+    // Where the captured hit-test answered with an application's window, the replay answers
+    // with the simulated window it stands for: the one of that process (with that title when
+    // the capture kept it), when exactly one fits.
+    void recordHitTests(const json& hitTests) {
+        for (const json& hit : hitTests) {
+            const json point = hit.value("point", json());
+            if (!point.is_array() || point.size() != 2 || !hit.value("hasWindow", false)) continue;
+            const Pid pid = hit.value("pid", 0);
+            std::optional<SimWindowId> found;
+            int fits = 0;
+            for (const SimWindow& window : desktop_.windows()) {
+                if (window.pid != pid) continue;
+                if (hit.contains("title") && hit["title"] != window.title) continue;
+                found = window.id;
+                ++fits;
+            }
+            if (fits == 1) {
+                windowHits_.push_back({{point[0].get<double>(), point[1].get<double>()}, *found});
+            }
+        }
+    }
+
+    // The override outlives the loader: it keeps its own copy of the nodes and answers.
     void answerHitTests() {
         SimAccessibility* accessibility = &desktop_.accessibility();
-        accessibility->hitTestOverride = [accessibility,
-                                          nodes = nodes_](Point point) -> std::optional<AXElement> {
+        accessibility->hitTestOverride = [accessibility, nodes = nodes_, windows = windowHits_](
+                                             Point point) -> std::optional<AXElement> {
+            for (const auto& [at, window] : windows) {
+                if (at == point) return accessibility->windowElement(window);
+            }
             const CapturedNode* best = nullptr;
             for (const CapturedNode& node : nodes) {
                 if (!node.frame.contains(point)) continue;
@@ -203,6 +250,8 @@ class CaptureLoader {
     ThumbnailFacts facts_;
     std::map<std::uint32_t, SimWindowId> windowIds_;
     std::vector<CapturedNode> nodes_;
+    json enumerated_;
+    std::vector<std::pair<Point, SimWindowId>> windowHits_;
 };
 
 }  // namespace
