@@ -11,6 +11,7 @@
 #include "thumbnail_printout.h"
 #include "tracking/mission_control_detector.h"
 #include "tracking/mission_control_host.h"
+#include "tracking/thumbnail_reader.h"
 
 namespace vistrel {
 
@@ -44,8 +45,10 @@ int showCapture(const fs::path& file, std::ostream& out) {
         return 1;
     }
     const OperatingSystemVersion& system = desktop.systemInfo().version;
+    const auto host = ThumbnailReader().read().host;
     out << "  macOS " << system.major << "." << system.minor << "." << system.patch << "; "
-        << MissionControlHosts::startLine(MissionControlHosts::running()) << "\n";
+        << (host ? MissionControlHosts::startLine(*host) : "mission control: no host found")
+        << "\n";
     out << "  detector: mission control "
         << (MissionControlDetector::isMissionControlOpen() ? "open" : "closed") << "\n";
     printThumbnails(desktop, out);
