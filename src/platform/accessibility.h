@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/ax_value.h"
 #include "platform/geometry.h"
@@ -24,6 +26,9 @@ class Accessibility {
     // AXUIElementCopyAttributeValue; `value` is set only on success.
     virtual AXError copyAttribute(const AXElement& element, std::string_view attribute,
                                   AXValue& value) = 0;
+    // AXUIElementCopyAttributeNames: every attribute the element supports; `names` is set
+    // only on success.
+    virtual AXError attributeNames(const AXElement& element, std::vector<std::string>& names) = 0;
     // AXUIElementSetAttributeValue.
     virtual AXError setAttribute(const AXElement& element, std::string_view attribute,
                                  const AXValue& value) = 0;

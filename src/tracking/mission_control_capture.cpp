@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <memory>
+#include <variant>
 
 #include "platform/platform.h"
 #include "tracking/ax.h"
@@ -19,6 +21,9 @@ namespace {
 using nlohmann::json;
 
 constexpr std::string_view missionControlPrefix = "mc.";
+// Attribute texts that name a kind of element rather than what the user works on.
+constexpr std::string_view identifyingTexts[] = {"AXRole", "AXSubrole", "AXRoleDescription",
+                                                 "AXIdentifier"};
 constexpr int jsonIndent = 2;
 
 json rectangle(Rect rect) {
@@ -33,6 +38,7 @@ class TreeWalk {
     json node(const AXElement& element, int level) {
         json out = json::object();
         ++nodes_;
+        if (json all = attributes(element); !all.empty()) out["attributes"] = std::move(all);
         text(out, "role", element, "AXRole");
         text(out, "subrole", element, "AXSubrole");
         text(out, "identifier", element, "AXIdentifier");
@@ -51,6 +57,47 @@ class TreeWalk {
     }
 
   private:
+    // Every attribute the element names with its value, its children apart (walked below).
+    // Text is kept only where it identifies (roles, identifiers) unless titles were asked for.
+    json attributes(const AXElement& element) const {
+        std::vector<std::string> names;
+        json all = json::object();
+        if (platform().accessibility.attributeNames(element, names) != AXError::success) return all;
+        for (const std::string& name : names) {
+            if (name == "AXChildren") continue;
+            AXValue value;
+            if (platform().accessibility.copyAttribute(element, name, value) != AXError::success) {
+                all[name] = nullptr;
+                continue;
+            }
+            all[name] = valueOf(name, value);
+        }
+        return all;
+    }
+
+    json valueOf(const std::string& name, const AXValue& value) const {
+        if (const auto* text = std::get_if<std::string>(&value)) {
+            const bool identifies =
+                std::find(std::begin(identifyingTexts), std::end(identifyingTexts), name) !=
+                std::end(identifyingTexts);
+            // Any other text, when titles were not asked for, is only said to be there.
+            return withTitles_ || identifies ? json(*text) : json{{"hidden", "text"}};
+        }
+        if (const auto* flag = std::get_if<bool>(&value)) return *flag;
+        if (const auto* integer = std::get_if<std::int64_t>(&value)) return *integer;
+        if (const auto* real = std::get_if<double>(&value)) return *real;
+        if (const auto* rect = std::get_if<Rect>(&value)) return rectangle(*rect);
+        if (const auto* point = std::get_if<Point>(&value))
+            return json::array({point->x, point->y});
+        if (const auto* size = std::get_if<Size>(&value))
+            return json::array({size->width, size->height});
+        if (std::holds_alternative<AXElement>(value)) return "element";
+        if (const auto* list = std::get_if<std::vector<AXElement>>(&value)) {
+            return json{{"elements", list->size()}};
+        }
+        return "other";
+    }
+
     static void text(json& out, const char* key, const AXElement& element,
                      std::string_view attribute) {
         if (auto value = AX::string(element, attribute)) out[key] = *value;

@@ -127,6 +127,20 @@ TEST_F(MissionControlCaptureTest, WithoutTheAccessibilityPermissionNothingIsWait
               "needs it), nothing written");
 }
 
+TEST_F(MissionControlCaptureTest, EveryAttributeOfAnElementIsRecordedTextsOnlyWhereTheyIdentify) {
+    captureOpen();
+    const json display = written()["windowManager"]["groups"][0];
+    ASSERT_EQ(display["identifier"], "mc.display");
+    const json thumbnail = display["children"][0]["attributes"];
+    EXPECT_EQ(thumbnail["AXRole"], "AXButton");
+    EXPECT_TRUE(thumbnail["AXIdentifier"].get<std::string>().ends_with(".space.1"));
+    EXPECT_TRUE(thumbnail["wid"].is_number_integer());
+    EXPECT_EQ(thumbnail["AXFrame"].size(), 4u);
+    EXPECT_EQ(thumbnail["AXTitle"], json({{"hidden", "text"}}));
+    EXPECT_FALSE(thumbnail.contains("AXChildren"));
+    EXPECT_FALSE(display["attributes"].contains("AXChildren")) << "children are walked, not listed";
+}
+
 TEST_F(MissionControlCaptureTest, RecordsTheThumbnailsTheHitTestsAndTheApplicationsWindows) {
     request.withTitles = true;
     captureOpen();

@@ -66,6 +66,9 @@ class RecordingAccessibility : public Accessibility {
     AXError setMessagingTimeout(const AXElement& element, float seconds) override {
         return a().setMessagingTimeout(element, seconds);
     }
+    AXError attributeNames(const AXElement& element, std::vector<std::string>& names) override {
+        return a().attributeNames(element, names);
+    }
     AXError copyAttribute(const AXElement& element, std::string_view attribute,
                           AXValue& value) override {
         return a().copyAttribute(element, attribute, value);

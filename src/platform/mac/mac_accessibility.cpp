@@ -160,6 +160,25 @@ AXError MacAccessibility::copyAttribute(const AXElement& element, std::string_vi
     return AXError::success;
 }
 
+AXError MacAccessibility::attributeNames(const AXElement& element,
+                                         std::vector<std::string>& names) {
+    AXUIElementRef ref = refOf(element);
+    if (ref == nullptr) return AXError::illegalArgument;
+    CFArrayRef copied = nullptr;
+    const ::AXError error = AXUIElementCopyAttributeNames(ref, &copied);
+    const CFOwned<CFArrayRef> owned(copied);
+    if (error != kAXErrorSuccess) return toError(error);
+    if (copied == nullptr) return AXError::noValue;
+    names.clear();
+    const CFIndex count = CFArrayGetCount(copied);
+    for (CFIndex i = 0; i < count; ++i) {
+        const auto item = static_cast<CFTypeRef>(CFArrayGetValueAtIndex(copied, i));
+        if (item == nullptr || CFGetTypeID(item) != CFStringGetTypeID()) continue;
+        if (auto name = textOf(static_cast<CFStringRef>(item))) names.push_back(std::move(*name));
+    }
+    return AXError::success;
+}
+
 AXError MacAccessibility::setAttribute(const AXElement& element, std::string_view attribute,
                                        const AXValue& value) {
     AXUIElementRef ref = refOf(element);

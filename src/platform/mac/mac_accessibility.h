@@ -30,6 +30,7 @@ class MacAccessibility : public Accessibility {
     AXElement systemWide() override;
     AXElement application(Pid pid) override;
     AXError setMessagingTimeout(const AXElement& element, float seconds) override;
+    AXError attributeNames(const AXElement& element, std::vector<std::string>& names) override;
     AXError copyAttribute(const AXElement& element, std::string_view attribute,
                           AXValue& value) override;
     AXError setAttribute(const AXElement& element, std::string_view attribute,

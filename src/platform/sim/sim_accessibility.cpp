@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_window_part.h"
 
 namespace vistrel {
 
@@ -41,34 +42,6 @@ AXElement make(Kind kind, Pid pid, std::uint64_t id, int part = 0) {
 
 constexpr std::string_view pressAction = "AXPress";
 constexpr std::string_view raiseAction = "AXRaise";
-
-bool hasPart(const SimWindow& window, SimWindowPart part) {
-    switch (part) {
-        case SimWindowPart::closeButton:
-            return window.hasCloseButton;
-        case SimWindowPart::minimizeButton:
-            return window.hasMinimizeButton;
-        case SimWindowPart::fullScreenButton:
-            return window.hasFullScreenButton;
-        case SimWindowPart::title:
-            return true;
-    }
-    return false;
-}
-
-std::string_view subroleOf(SimWindowPart part) {
-    switch (part) {
-        case SimWindowPart::closeButton:
-            return "AXCloseButton";
-        case SimWindowPart::minimizeButton:
-            return "AXMinimizeButton";
-        case SimWindowPart::fullScreenButton:
-            return "AXFullScreenButton";
-        case SimWindowPart::title:
-            return "";
-    }
-    return "";
-}
 
 }  // namespace
 
@@ -221,6 +194,22 @@ AXError SimAccessibility::copyAttribute(const AXElement& element, std::string_vi
     if (window == nullptr || window->closed) return AXError::invalidUIElement;
     if (handle.kind == Kind::window) return readWindow(*window, attribute, value);
     return readPart(*window, static_cast<SimWindowPart>(handle.part - 1), attribute, value);
+}
+
+// A free node lists the attributes it stores; elements derived from the desktop list none.
+AXError SimAccessibility::attributeNames(const AXElement& element,
+                                         std::vector<std::string>& names) {
+    if (const SimHandle* handle = handleOf(element); handle && handle->kind == Kind::node) {
+        if (const AXError entered = enter(element); entered != AXError::success) return entered;
+        std::lock_guard lock(mutex_);
+        const auto node = nodes_.find(handle->id);
+        if (node == nodes_.end()) return AXError::invalidUIElement;
+        names.clear();
+        for (const auto& entry : node->second.attributes)
+            names.push_back(entry.first);
+        return AXError::success;
+    }
+    return AXError::notImplemented;
 }
 
 AXError SimAccessibility::readApplication(Pid pid, std::string_view attribute, AXValue& value) {

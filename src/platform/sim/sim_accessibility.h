@@ -36,6 +36,8 @@ class SimAccessibility : public Accessibility {
     AXElement systemWide() override;
     AXElement application(Pid pid) override;
     AXError setMessagingTimeout(const AXElement& element, float seconds) override;
+    // Free nodes only; other elements answer notImplemented.
+    AXError attributeNames(const AXElement& element, std::vector<std::string>& names) override;
     AXError copyAttribute(const AXElement& element, std::string_view attribute,
                           AXValue& value) override;
     AXError setAttribute(const AXElement& element, std::string_view attribute,

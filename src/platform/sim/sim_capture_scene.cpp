@@ -161,9 +161,32 @@ class CaptureLoader {
         desktop_.accessibility().applicationChildren[pid] = std::move(groups);
     }
 
+    // The attributes the capture recorded with their values, as far as a value can be told
+    // from its JSON: texts, flags, numbers, and rectangles, points and sizes by their names.
+    // The named fields ("frame", "wid"…) are read after these and win.
+    static std::map<std::string, AXValue> recorded(const json& all) {
+        std::map<std::string, AXValue> attributes;
+        if (!all.is_object()) return attributes;
+        for (const auto& [name, value] : all.items()) {
+            if (value.is_string()) attributes[name] = value.get<std::string>();
+            if (value.is_boolean()) attributes[name] = value.get<bool>();
+            if (value.is_number_integer()) attributes[name] = value.get<std::int64_t>();
+            if (value.is_number_float()) attributes[name] = value.get<double>();
+            if (auto rect = rectangleOf(value)) attributes[name] = *rect;
+            if (value.is_array() && value.size() == 2 && value[0].is_number() &&
+                value[1].is_number()) {
+                const double a = value[0].get<double>();
+                const double b = value[1].get<double>();
+                if (name == "AXPosition") attributes[name] = Point{a, b};
+                if (name == "AXSize") attributes[name] = Size{a, b};
+            }
+        }
+        return attributes;
+    }
+
     AXElement addNode(Pid owner, const json& node, int level) {
         SimAccessibility& accessibility = desktop_.accessibility();
-        std::map<std::string, AXValue> attributes;
+        std::map<std::string, AXValue> attributes = recorded(node.value("attributes", json()));
         const std::pair<const char*, const char*> texts[] = {{"role", "AXRole"},
                                                              {"subrole", "AXSubrole"},
                                                              {"identifier", "AXIdentifier"},

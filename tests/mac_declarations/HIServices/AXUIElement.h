@@ -5,6 +5,7 @@
 
 #include <sys/types.h>
 
+#include <CoreFoundation/CFArray.h>
 #include <CoreFoundation/CFDictionary.h>
 #include <HIServices/AXError.h>
 
@@ -21,6 +22,7 @@ AXUIElementRef AXUIElementCreateSystemWide(void);
 AXUIElementRef AXUIElementCreateApplication(pid_t pid);
 AXError AXUIElementGetPid(AXUIElementRef element, pid_t* pid);
 AXError AXUIElementSetMessagingTimeout(AXUIElementRef element, float timeoutInSeconds);
+AXError AXUIElementCopyAttributeNames(AXUIElementRef element, CFArrayRef* names);
 AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute,
                                       CFTypeRef* value);
 AXError AXUIElementSetAttributeValue(AXUIElementRef element, CFStringRef attribute,
