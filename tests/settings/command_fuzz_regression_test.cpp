@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "fuzz/command_fuzz.h"
+#include "fuzz/fixed_inputs.h"
 
 namespace vistrel {
 namespace {
@@ -31,18 +32,12 @@ TEST(CommandFuzzRegression, WellFormedCommandsAndNearMissesKeepThePromise) {
 }
 
 TEST(CommandFuzzRegression, ArbitraryBytesKeepThePromise) {
-    // A fixed stream of bytes from a linear congruential generator, cut into inputs.
-    std::uint32_t state = 1;
     constexpr int inputs = 500;
     constexpr std::size_t bytesEach = 48;
-    for (int i = 0; i < inputs; ++i) {
-        std::string bytes;
-        for (std::size_t b = 0; b < bytesEach; ++b) {
-            state = state * 1664525u + 1013904223u;
-            bytes.push_back(static_cast<char>(state >> 24));
-        }
+    int i = 0;
+    for (const std::string& bytes : fuzz::fixedInputs(1, inputs, bytesEach)) {
         const auto userInfo = fuzz::UserInfoReader(bytes).userInfo();
-        ASSERT_TRUE(fuzz::dispatchKeepsItsPromise(userInfo)) << "input " << i;
+        ASSERT_TRUE(fuzz::dispatchKeepsItsPromise(userInfo)) << "input " << i++;
     }
 }
 
