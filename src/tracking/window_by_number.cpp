@@ -46,15 +46,18 @@ std::optional<AX::WindowHit> find(std::uint32_t number, const AXElement& thumbna
         if (frame && matches(*frame, entry->bounds)) matching.push_back(window);
     }
     if (matching.empty()) return std::nullopt;
-    if (matching.size() > 1) {
-        const auto title = AX::string(thumbnail, titleAttribute);
-        for (const AXElement& window : matching) {
-            if (title && AX::string(window, titleAttribute) == title) {
-                return AX::WindowHit{window, entry->pid};
-            }
-        }
+    if (matching.size() == 1) return AX::WindowHit{matching.front(), entry->pid};
+    // Several windows at those bounds: the one titled like the thumbnail, when just one is;
+    // otherwise none, since any pick could be another window than the one shown.
+    const auto title = AX::string(thumbnail, titleAttribute);
+    if (!title) return std::nullopt;
+    std::optional<AX::WindowHit> titled;
+    for (const AXElement& window : matching) {
+        if (AX::string(window, titleAttribute) != title) continue;
+        if (titled) return std::nullopt;
+        titled = AX::WindowHit{window, entry->pid};
     }
-    return AX::WindowHit{matching.front(), entry->pid};
+    return titled;
 }
 
 }  // namespace vistrel::WindowByNumber

@@ -12,7 +12,7 @@ namespace vistrel {
 // Finds the accessibility window behind a window server number, with public calls only:
 // the on-screen window list gives the number's owner process and bounds, and the owner's
 // accessibility window whose frame matches those bounds is the one; when several match,
-// the one titled like the thumbnail wins.
+// the one titled like the thumbnail, and none when no single one is.
 namespace WindowByNumber {
 
 // Enumerating an application's windows gives up after this long.

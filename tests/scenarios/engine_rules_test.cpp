@@ -163,6 +163,24 @@ TEST_F(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
     EXPECT_EQ(desktop.accessibility().hitTests(), hitTests);
 }
 
+TEST_F(EngineRulesTest, WindowsAreEnumeratedOncePerOpeningNotPerMove) {
+    openMissionControl();
+    const std::size_t opening = desktop.accessibility().attributeReads("AXWindows");
+    ASSERT_GT(opening, 0u) << "the opening enumerates the windows to tie the thumbnails";
+    for (int tick = 0; tick < 20; ++tick)
+        this->tick();
+    for (const char* title : {"Notes", "Start Page", "Downloads"}) {
+        move(overNoThumbnail);
+        move(inside(thumbOf(title)));
+    }
+    EXPECT_EQ(desktop.accessibility().attributeReads("AXWindows"), opening);
+
+    closeMissionControl();
+    openMissionControl();
+    EXPECT_EQ(desktop.accessibility().attributeReads("AXWindows"), 2 * opening)
+        << "a new opening enumerates them afresh";
+}
+
 TEST_F(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));

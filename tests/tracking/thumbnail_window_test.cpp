@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 #include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "tracking/ax.h"
@@ -96,6 +99,23 @@ TEST_F(ThumbnailWindowTest, TwoWindowsOfOneFrameAreToldApartByTheThumbnailsTitle
     const auto hit = WindowByNumber::find(static_cast<std::uint32_t>(twinId), thumbnail);
     ASSERT_TRUE(hit);
     EXPECT_EQ(hit->window, windowElement(twinId));
+}
+
+// Found by fuzzing: with several windows at the bounds and no title to pick one, the first
+// listed was taken, which could be another window than the one the thumbnail shows.
+TEST_F(ThumbnailWindowTest, WindowsOfOneFrameThatNoTitleTellsApartFindNothing) {
+    const SimThumbnail shown = desktop.dock().thumbnails().front();
+    SimWindow& original = *desktop.window(shown.window);
+    const SimWindowId twinId = desktop.addWindow(original.pid, original);
+    desktop.bringToFront(shown.window);
+    SimAccessibility& ax = desktop.accessibility();
+    for (const char* title : {"Another title", ""}) {
+        std::map<std::string, AXValue> attributes{{"wid", static_cast<std::int64_t>(twinId)}};
+        if (*title) attributes["AXTitle"] = std::string(title);
+        const AXElement thumbnail =
+            ax.nodeElement(ax.addNode(desktop.dock().windowManagerPid(), std::move(attributes)));
+        EXPECT_FALSE(WindowByNumber::find(static_cast<std::uint32_t>(twinId), thumbnail)) << title;
+    }
 }
 
 TEST_F(ThumbnailWindowTest, NumberNotInTheWindowListFindsNothing) {
