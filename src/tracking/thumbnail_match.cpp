@@ -1,5 +1,6 @@
 #include "tracking/thumbnail_match.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vistrel::ThumbnailMatch {
@@ -46,7 +47,9 @@ bool sameShape(Rect thumbnail, Rect window) {
     const double thumbnailAspect = std::abs(thumbnail.width) / thumbnailHeight;
     const double windowAspect = std::abs(window.width) / windowHeight;
     if (!(thumbnailAspect > 0) || !(windowAspect > 0)) return false;
-    return std::abs(thumbnailAspect / windowAspect - 1) <= aspectTolerance;
+    // The larger over the smaller, so that the answer does not depend on the order.
+    return std::max(thumbnailAspect, windowAspect) / std::min(thumbnailAspect, windowAspect) - 1 <=
+           aspectTolerance;
 }
 
 Fit fit(const Thumbnail& thumbnail, std::span<const Window> windows) {

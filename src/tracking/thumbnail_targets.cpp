@@ -31,13 +31,15 @@ MissionControlReading ThumbnailTargets::update(std::uint64_t generation, Thumbna
 }
 
 // The tie made earlier in this opening for the same thumbnail (same title, identifier and
-// number, same shape: its frame moves while Mission Control animates), else a new one.
+// number, same shape: its frame moves while Mission Control animates, and a window tied
+// by its shape must still have it), else a new one.
 const ThumbnailTargets::Tie& ThumbnailTargets::tieOf(const MissionControlThumbnail& thumbnail,
                                                      Pid ownPid) {
     for (const Tie& tie : ties_) {
         if (tie.thumbnailTitle == thumbnail.title && tie.identifier == thumbnail.identifier &&
             tie.number == thumbnail.window &&
-            ThumbnailMatch::sameShape(tie.frame, thumbnail.frame)) {
+            ThumbnailMatch::sameShape(tie.frame, thumbnail.frame) &&
+            (!tie.windowFrame || ThumbnailMatch::sameShape(thumbnail.frame, *tie.windowFrame))) {
             return tie;
         }
     }
@@ -46,8 +48,11 @@ const ThumbnailTargets::Tie& ThumbnailTargets::tieOf(const MissionControlThumbna
 }
 
 ThumbnailTargets::Tie ThumbnailTargets::make(const MissionControlThumbnail& thumbnail, Pid ownPid) {
-    Tie tie{
-        thumbnail.title, thumbnail.identifier, thumbnail.window, thumbnail.frame, {}, {}, false};
+    Tie tie;
+    tie.thumbnailTitle = thumbnail.title;
+    tie.identifier = thumbnail.identifier;
+    tie.number = thumbnail.window;
+    tie.frame = thumbnail.frame;
     if (thumbnail.window != 0) {
         tie.window = WindowByNumber::find(thumbnail.window, thumbnail.element);
         if (tie.window && tie.window->pid == ownPid) tie.window.reset();
@@ -68,6 +73,7 @@ ThumbnailTargets::Tie ThumbnailTargets::make(const MissionControlThumbnail& thum
     if (fit.window) {
         tie.window = catalog_.window(*fit.window);
         tie.windowTitle = catalog_.facts()[*fit.window].title;
+        tie.windowFrame = catalog_.facts()[*fit.window].frame;
     }
     return tie;
 }

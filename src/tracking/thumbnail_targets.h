@@ -45,6 +45,9 @@ class ThumbnailTargets {
         std::optional<AX::WindowHit> window;
         // The window's title when it was tied; it must still read so at the pointer.
         std::string windowTitle;
+        // The frame of a window tied by its shape: a later frame of the thumbnail must still
+        // have that shape for the tie to serve it.
+        std::optional<Rect> windowFrame;
         bool refused = false;
     };
 
