@@ -8,7 +8,10 @@ namespace vistrel {
 class SimDesktop;
 
 // The ways a Mac may present Mission Control to the accessibility interface, as far as
-// public records of real trees show them:
+// public records of real trees show them (Hammerspoon issue 3897 and PaperWM.spoon issue
+// 173 for WindowManager's tree on macOS 27, rebuilt in tests/captures/; Hammerspoon
+// scripts that walk the Dock's "mc" → "mc.display" groups up to macOS 26). Where the records
+// disagree or say nothing, every variant is modelled:
 //   hitTestWindow: up to macOS 26, the hit-test over a thumbnail answers with the
 //     application's window (its title element in the scaled title bar).
 //   hitTestThumbnail: up to macOS 26, the hit-test answers with the Dock's thumbnail, an
