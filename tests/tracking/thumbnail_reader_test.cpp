@@ -89,8 +89,8 @@ void expectReadsOfOneWalk(SimAccessibility& ax, std::size_t thumbnails) {
     EXPECT_EQ(ax.attributeReads("AXIdentifier"), dockChildren + displayChildren + thumbnails);
     EXPECT_EQ(ax.attributeReads("AXFrame"), displays + thumbnails);
     EXPECT_EQ(ax.attributeReads("AXTitle"), thumbnails);
-    EXPECT_EQ(ax.attributeReads(), nodesVisited + dockChildren + displayChildren + displays +
-                                       3 * thumbnails);
+    EXPECT_EQ(ax.attributeReads(),
+              nodesVisited + dockChildren + displayChildren + displays + 3 * thumbnails);
 }
 
 class ThumbnailReadCount : public ThumbnailReaderTest, public ::testing::WithParamInterface<int> {};
