@@ -8,14 +8,17 @@
 
 namespace vistrel {
 
-int AgentMain::run(std::ostream& out, const std::function<int()>& runApplication) {
+int AgentMain::run(std::ostream& out, const Runners& runners) {
     const auto arguments = platform().launch.arguments();
-    if (std::find(arguments.begin(), arguments.end(), diagnoseArgument) == arguments.end()) {
-        return runApplication();
+    if (std::find(arguments.begin(), arguments.end(), diagnoseArgument) != arguments.end()) {
+        // Exactly the text: scripts read it, so no line feed is added.
+        out << Diagnostics::text() << std::flush;
+        return 0;
     }
-    // Exactly the text: scripts read it, so no line feed is added.
-    out << Diagnostics::text() << std::flush;
-    return 0;
+    if (auto request = MissionControlCapture::requested(arguments)) {
+        return runners.capture(*request);
+    }
+    return runners.application();
 }
 
 }  // namespace vistrel

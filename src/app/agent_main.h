@@ -4,17 +4,27 @@
 #include <ostream>
 #include <string_view>
 
+#include "tracking/mission_control_capture.h"
+
 namespace vistrel {
 
-// The agent's entry point once the platform is installed: "--diagnose" anywhere among the
-// arguments prints the diagnostics text and ends the process without an application;
-// otherwise the application is made and runs.
+// The agent's entry point once the platform is installed. One of three things runs, in this
+// order of precedence: "--diagnose" anywhere among the arguments prints the diagnostics
+// text and ends the process without an application; "--capture-mission-control" runs the
+// capture tool; otherwise the application is made and runs. Nothing before this decision
+// may touch AppKit, so that the first two never make an application object.
 struct AgentMain {
     static constexpr std::string_view diagnoseArgument = "--diagnose";
 
-    // `runApplication` makes the application object and runs its event loop; the answer is
-    // the process's exit status.
-    static int run(std::ostream& out, const std::function<int()>& runApplication);
+    struct Runners {
+        // Runs the capture tool; the answer is the process's exit status.
+        std::function<int(const MissionControlCapture::Request&)> capture;
+        // Makes the application object and runs its event loop; the answer is the process's
+        // exit status.
+        std::function<int()> application;
+    };
+
+    static int run(std::ostream& out, const Runners& runners);
 };
 
 }  // namespace vistrel

@@ -50,6 +50,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     commands_.listen();
     firstRunOrPrompt();
     Settings::shared().publishStatus();
+    p.application.keepTimersOnTime(timersReason);
     engine_ = Engine::make();
     engine_->start();
     Log::info(startedLine());

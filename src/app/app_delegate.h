@@ -21,6 +21,9 @@ class AppDelegate {
   public:
     // Set by the test runner that hosts the app; the agent then starts nothing.
     static constexpr std::string_view testHostVariable = "XCTestConfigurationFilePath";
+    // Why the agent stays out of App Nap: an accessory agent with no window on screen is
+    // napped, and its Mission Control detector would then poll seconds late.
+    static constexpr std::string_view timersReason = "Vistrel watches for Mission Control";
 
     AppDelegate();
     ~AppDelegate();

@@ -43,7 +43,8 @@ bool MoveToApplications::offerIfNeeded(const std::string& folder) {
     const AlertContent offer{std::string(Text::offerTitle),
                              std::string(Text::offerText),
                              {std::string(Text::move), std::string(Text::notNow)}};
-    if (p.alert.run(offer) != 0) return false;
+    // Only the move button itself moves: an alert that ended without a button is "Not Now".
+    if (p.alert.run(offer) != moveButton) return false;
     if (!move(bundle, folder + "/" + std::string(bundleName))) {
         p.alert.run({std::string(Text::failedTitle),
                      std::string(Text::failedText),

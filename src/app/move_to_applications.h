@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,8 @@ namespace vistrel {
 // at login.
 struct MoveToApplications {
     static constexpr std::string_view applicationsFolder = "/Applications";
+    // The offer's buttons: "Move to Applications", then "Not Now".
+    static constexpr std::size_t moveButton = 0;
     static constexpr std::string_view bundleName = "Vistrel.app";
     static constexpr std::string_view volumesPrefix = "/Volumes/";
     static constexpr std::string_view translocation = "/AppTranslocation/";

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace vistrel {
 
 // NSApplication.shared: the agent's own application object. Main thread only.
@@ -11,6 +13,11 @@ class AgentApplication {
     virtual void activate() = 0;
     // terminate(nil), scheduled on the main queue so that the caller finishes first.
     virtual void terminate() = 0;
+    // Keeps the process out of App Nap for as long as it runs, so that its timers fire on
+    // time: ProcessInfo.beginActivity(options: .userInitiatedAllowingIdleSystemSleep,
+    // reason:), held and never ended. The Mac may still sleep when idle. A second call
+    // changes nothing.
+    virtual void keepTimersOnTime(std::string_view reason) = 0;
 };
 
 }  // namespace vistrel

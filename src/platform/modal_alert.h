@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +23,25 @@ struct AlertContent {
 class ModalAlert {
   public:
     virtual ~ModalAlert() = default;
-    // The index of the button the user chose (NSAlertFirstButtonReturn + index).
-    virtual std::size_t run(const AlertContent& alert) = 0;
+    // The index of the button the user chose; nothing when the alert ended without one.
+    virtual std::optional<std::size_t> run(const AlertContent& alert) = 0;
 };
+
+namespace AlertResponse {
+
+// NSAlertFirstButtonReturn: runModal answers it for the first button, one more for each next.
+inline constexpr std::int64_t firstButton = 1000;
+
+// The button a modal response names among `buttons`; nothing for any other response (the
+// session aborted or stopped, NSModalResponseAbort and NSModalResponseStop), which must never
+// be taken for a button: the first one is often the one that changes something.
+inline std::optional<std::size_t> button(std::int64_t response, std::size_t buttons) {
+    if (response < firstButton) return std::nullopt;
+    const auto index = static_cast<std::size_t>(response - firstButton);
+    if (index >= buttons) return std::nullopt;
+    return index;
+}
+
+}  // namespace AlertResponse
 
 }  // namespace vistrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "platform/modal_alert.h"
@@ -16,7 +17,7 @@ struct ReportDialogContent {
 
 // What the user typed and the button that closed the dialog.
 struct ReportDialogAnswer {
-    std::size_t button = 0;
+    std::optional<std::size_t> button;
     std::string note;
     std::string email;
 };

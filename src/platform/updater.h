@@ -21,8 +21,7 @@ class Updater {
     virtual void setAutomaticallyDownloadsUpdates(bool on) = 0;
 };
 
-// Makes the updater: SPUStandardUserDriver(hostBundle: Bundle.main, delegate:) with a
-// delegate that answers true to supportsGentleScheduledUpdateReminders, then
+// Makes the updater: SPUStandardUserDriver(hostBundle: Bundle.main, delegate: nil), then
 // SPUUpdater(hostBundle: Bundle.main, applicationBundle: Bundle.main, userDriver:,
 // delegate: nil). Never fails; starting it may.
 class UpdateService {

@@ -87,6 +87,18 @@ TEST_F(AppDelegateTest, TheOnlyCopyRuns) {
     EXPECT_NE(delegate.engine(), nullptr);
 }
 
+TEST_F(AppDelegateTest, TheRunningAgentStaysOutOfAppNapSoItsTimersFireOnTime) {
+    launch();
+    EXPECT_EQ(desktop.application().timersKeptOnTime(), std::string(AppDelegate::timersReason));
+}
+
+TEST_F(AppDelegateTest, ACopyThatQuitsAtOnceTakesNoActivity) {
+    addRunningCopyOfTheAgent();
+    addRunningCopyOfTheAgent();
+    launch();
+    EXPECT_EQ(desktop.application().timersKeptOnTime(), std::nullopt);
+}
+
 TEST_F(AppDelegateTest, RunningFromADiskImageOffersTheMoveAndNotNowStartsFromThere) {
     desktop.bundle.path = "/Volumes/Vistrel/Vistrel.app";
     desktop.alert().answers.push_back(1);

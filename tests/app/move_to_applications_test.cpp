@@ -81,6 +81,16 @@ TEST_F(MoveToApplicationsTest, NotNowKeepsTheAppWhereItIs) {
     EXPECT_FALSE(desktop.application().terminated());
 }
 
+// An alert whose modal session was aborted or stopped names no button; taking it for the
+// first would move the app and put the copy in Applications in the Trash.
+TEST_F(MoveToApplicationsTest, AnOfferEndedWithoutAButtonKeepsTheAppWhereItIs) {
+    desktop.alert().answers.push_back(std::nullopt);
+    EXPECT_FALSE(offer());
+    EXPECT_FALSE(fs::exists(applications / "Vistrel.app"));
+    EXPECT_TRUE(desktop.files().trashed.empty());
+    EXPECT_FALSE(desktop.application().terminated());
+}
+
 TEST_F(MoveToApplicationsTest, AFailedCopySaysSoAndStartsInPlace) {
     desktop.files().copyFailures[destination()] = "You don't have permission.";
     EXPECT_FALSE(offer());

@@ -55,6 +55,12 @@ TEST_F(CommandChannelTest, ANameInAnotherCaseIsIgnored) {
     EXPECT_EQ(applied, 0);
 }
 
+// The macOS layer hands names over by length, so a NUL inside one reaches the match.
+TEST_F(CommandChannelTest, ANameWithAnEmbeddedNulAfterAKnownNameIsIgnored) {
+    EXPECT_FALSE(CommandChannel::parse(command(std::string("applySettings\0x", 15))));
+    EXPECT_FALSE(CommandChannel::parse(command(std::string("applySettings\0", 14))));
+}
+
 TEST_F(CommandChannelTest, MalformedNotificationsAreDroppedSilently) {
     channel.listen();
     post(std::nullopt);

@@ -59,7 +59,7 @@ class ReportSession {
             picture("dialog", dialog.alert,
                     SimReportFields{answer.note, answer.email, dialog.emailPlaceholder});
         };
-        desktop.alert().observer = [this](const AlertContent& alert, std::size_t) {
+        desktop.alert().observer = [this](const AlertContent& alert, std::optional<std::size_t>) {
             picture(nextAlertPicture(), alert, std::nullopt);
         };
     }

@@ -48,7 +48,7 @@ class StartupSession {
         desktop.infoDictionary().values[std::string(Updates::publicKeyInfoKey)] =
             std::string(Updates::publicKeyLength, 'k');
         desktop.trusted = false;
-        desktop.alert().observer = [this](const AlertContent& alert, std::size_t) {
+        desktop.alert().observer = [this](const AlertContent& alert, std::optional<std::size_t>) {
             alertPicture(alert);
         };
     }

@@ -9,6 +9,7 @@ class MacAgentApplication : public AgentApplication {
   public:
     void activate() override;
     void terminate() override;
+    void keepTimersOnTime(std::string_view reason) override;
 };
 
 }  // namespace vistrel

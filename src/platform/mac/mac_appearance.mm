@@ -86,10 +86,12 @@ Appearance appearanceOf(NSAppearance* appearance) {
     return dark ? Appearance::dark : Appearance::light;
 }
 
-MacAppearance::MacAppearance()
-    : observer_((__bridge_retained void*)[[VistrelAppearanceObserver alloc] initWithOwner:this]) {}
+// Nothing is observed until someone asks: the application object must not be made before
+// the agent has decided to run one ("--diagnose" never does).
+MacAppearance::MacAppearance() : observer_(nullptr) {}
 
 MacAppearance::~MacAppearance() {
+    if (observer_ == nullptr) return;
     VistrelAppearanceObserver* observer = (__bridge_transfer VistrelAppearanceObserver*)observer_;
     [observer stop];
 }
@@ -99,11 +101,14 @@ Appearance MacAppearance::current() {
 }
 
 std::uint64_t MacAppearance::observe(Observer observer) {
+    if (observer_ == nullptr) {
+        observer_ = (__bridge_retained void*)[[VistrelAppearanceObserver alloc] initWithOwner:this];
+    }
     return [observerOf(observer_) add:std::move(observer)];
 }
 
 void MacAppearance::stopObserving(std::uint64_t token) {
-    [observerOf(observer_) remove:token];
+    if (observer_ != nullptr) [observerOf(observer_) remove:token];
 }
 
 }  // namespace vistrel

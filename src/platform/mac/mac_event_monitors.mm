@@ -1,4 +1,5 @@
 #include "platform/mac/mac_event_monitors.h"
+#include "platform/mac/mac_strings.h"
 
 #import <AppKit/AppKit.h>
 
@@ -41,10 +42,8 @@ std::uint64_t MacEventMonitors::addLocalKeyDownMonitor(KeyHandler handler) {
     id monitor = [NSEvent
         addLocalMonitorForEventsMatchingMask:NSEventMaskKeyDown
                                      handler:^NSEvent*(NSEvent* event) {
-                                       NSString* characters = event.charactersIgnoringModifiers;
-                                       const char* utf8 = characters.UTF8String;
                                        const KeyPress press{
-                                           utf8 != nullptr ? utf8 : "",
+                                           utf8(event.charactersIgnoringModifiers),
                                            static_cast<std::uint64_t>(
                                                event.modifierFlags &
                                                NSEventModifierFlagDeviceIndependentFlagsMask)};

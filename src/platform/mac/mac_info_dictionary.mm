@@ -5,9 +5,7 @@
 namespace vistrel {
 
 std::optional<std::string> MacInfoDictionary::string(const std::string& key) {
-    id value = [NSBundle.mainBundle objectForInfoDictionaryKey:nsString(key)];
-    if (![value isKindOfClass:[NSString class]]) return std::nullopt;
-    return utf8(value);
+    return utf8Text([NSBundle.mainBundle objectForInfoDictionaryKey:nsString(key)]);
 }
 
 }  // namespace vistrel

@@ -1,17 +1,10 @@
 #include "platform/mac/mac_key_panel_view.h"
+#include "platform/mac/mac_strings.h"
 
 // One drawn view as assistive applications see it.
 @interface VistrelAccessibilityNode : NSAccessibilityElement
 - (instancetype)initWithNode:(vistrel::AccessibilityNode)node parent:(NSView*)parent;
 @end
-
-namespace {
-
-NSString* nsString(const std::string& text) {
-    return [NSString stringWithUTF8String:text.c_str()];
-}
-
-}  // namespace
 
 @implementation VistrelAccessibilityNode {
     vistrel::AccessibilityNode _node;
@@ -20,9 +13,9 @@ NSString* nsString(const std::string& text) {
 - (instancetype)initWithNode:(vistrel::AccessibilityNode)node parent:(NSView*)parent {
     if ((self = [super init])) {
         _node = std::move(node);
-        self.accessibilityRole = nsString(_node.role);
-        self.accessibilityLabel = nsString(_node.label);
-        if (!_node.help.empty()) self.accessibilityHelp = nsString(_node.help);
+        self.accessibilityRole = vistrel::nsString(_node.role);
+        self.accessibilityLabel = vistrel::nsString(_node.label);
+        if (!_node.help.empty()) self.accessibilityHelp = vistrel::nsString(_node.help);
         self.accessibilityParent = parent;
         self.accessibilityFrameInParentSpace =
             NSMakeRect(_node.frame.x, _node.frame.y, _node.frame.width, _node.frame.height);

@@ -8,15 +8,14 @@ namespace vistrel {
 
 std::vector<std::string> MacLaunchEnvironment::arguments() {
     std::vector<std::string> result;
-    for (NSString* argument in NSProcessInfo.processInfo.arguments)
-        result.emplace_back(argument.UTF8String);
+    for (NSString* argument in NSProcessInfo.processInfo.arguments) {
+        if (auto text = utf8Text(argument)) result.push_back(std::move(*text));
+    }
     return result;
 }
 
 std::optional<std::string> MacLaunchEnvironment::variable(const std::string& name) {
-    NSString* value = NSProcessInfo.processInfo.environment[nsString(name)];
-    if (value == nil) return std::nullopt;
-    return std::string(value.UTF8String);
+    return utf8Text(NSProcessInfo.processInfo.environment[nsString(name)]);
 }
 
 }  // namespace vistrel

@@ -1,4 +1,5 @@
 #include "platform/mac/mac_login_item.h"
+#include "platform/mac/mac_strings.h"
 
 #import <ServiceManagement/ServiceManagement.h>
 
@@ -8,7 +9,7 @@ namespace {
 
 std::optional<std::string> failure(BOOL ok, NSError* error) {
     if (ok) return std::nullopt;
-    return std::string(error != nil ? error.localizedDescription.UTF8String : "unknown error");
+    return describe(error);
 }
 
 }  // namespace

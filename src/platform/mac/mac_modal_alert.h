@@ -11,7 +11,7 @@ namespace vistrel {
 // NSAlert.runModal.
 class MacModalAlert : public ModalAlert {
   public:
-    std::size_t run(const AlertContent& alert) override;
+    std::optional<std::size_t> run(const AlertContent& alert) override;
 };
 
 // An accessory agent has no Dock icon to click: it comes to the front itself before it
@@ -21,8 +21,9 @@ void bringAgentForward();
 #ifdef __OBJC__
 // An alert with the content's title, text and buttons, the first one the default.
 NSAlert* makeAlert(const AlertContent& content);
-// Brings the agent forward, runs the alert and answers the index of the chosen button.
-std::size_t runAlert(NSAlert* alert);
+// Brings the agent forward, runs the alert and answers the index of the chosen button;
+// nothing when the alert ended without one.
+std::optional<std::size_t> runAlert(NSAlert* alert);
 #endif
 
 }  // namespace vistrel

@@ -7,7 +7,11 @@
 namespace vistrel {
 
 void bringAgentForward() {
-    [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+    if (@available(macOS 14.0, *)) {
+        [NSApplication.sharedApplication activate];
+    } else {
+        [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+    }
 }
 
 NSAlert* makeAlert(const AlertContent& content) {
@@ -19,14 +23,13 @@ NSAlert* makeAlert(const AlertContent& content) {
     return alert;
 }
 
-std::size_t runAlert(NSAlert* alert) {
+std::optional<std::size_t> runAlert(NSAlert* alert) {
     bringAgentForward();
     const NSModalResponse response = [alert runModal];
-    if (response < NSAlertFirstButtonReturn) return 0;
-    return static_cast<std::size_t>(response - NSAlertFirstButtonReturn);
+    return AlertResponse::button(response, alert.buttons.count);
 }
 
-std::size_t MacModalAlert::run(const AlertContent& alert) {
+std::optional<std::size_t> MacModalAlert::run(const AlertContent& alert) {
     return runAlert(makeAlert(alert));
 }
 

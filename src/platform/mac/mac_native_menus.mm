@@ -1,4 +1,5 @@
 #include "platform/mac/mac_native_menus.h"
+#include "platform/mac/mac_strings.h"
 
 #import <AppKit/AppKit.h>
 
@@ -39,14 +40,12 @@ void MacNativeMenus::popUp(std::vector<NativeMenuItem> items, KeyPanel& panel, P
           if (handler) handler();
         }];
         [targets addObject:target];
-        NSMenuItem* menuItem =
-            [[NSMenuItem alloc] initWithTitle:[NSString stringWithUTF8String:item.title.c_str()]
-                                       action:@selector(run:)
-                                keyEquivalent:@""];
+        NSMenuItem* menuItem = [[NSMenuItem alloc] initWithTitle:nsString(item.title)
+                                                          action:@selector(run:)
+                                                   keyEquivalent:@""];
         menuItem.target = target;
         menuItem.state = stateValue(item.state);
-        if (!item.toolTip.empty())
-            menuItem.toolTip = [NSString stringWithUTF8String:item.toolTip.c_str()];
+        if (!item.toolTip.empty()) menuItem.toolTip = nsString(item.toolTip);
         [menu addItem:menuItem];
     }
     [menu popUpMenuPositioningItem:nil

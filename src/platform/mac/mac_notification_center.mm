@@ -1,25 +1,63 @@
 #include "platform/mac/mac_notification_center.h"
 
 #import <Foundation/Foundation.h>
+#include <dispatch/dispatch.h>
 
 #include "platform/mac/mac_property_list.h"
 #include "platform/mac/mac_strings.h"
 
+// Receives one distributed notification by selector, because only the selector form lets an
+// observer ask for immediate delivery: an accessory agent is almost never the active
+// application, and for an inactive one the centre otherwise holds notifications back.
+@interface VistrelNotificationObserver : NSObject
+- (instancetype)initWithHandler:(void (^)(NSNotification* notification))handler;
+- (void)receive:(NSNotification*)notification;
+@end
+
+@implementation VistrelNotificationObserver {
+    void (^handler_)(NSNotification* notification);
+}
+
+- (instancetype)initWithHandler:(void (^)(NSNotification* notification))handler {
+    if ((self = [super init])) handler_ = handler;
+    return self;
+}
+
+- (void)receive:(NSNotification*)notification {
+    if (handler_) handler_(notification);
+}
+
+@end
+
 namespace vistrel {
 
+namespace {
+
+// The centre does not keep its observers; the agent's live as long as the process.
+NSMutableArray<VistrelNotificationObserver*>* observers() {
+    static NSMutableArray<VistrelNotificationObserver*>* kept = [NSMutableArray array];
+    return kept;
+}
+
+}  // namespace
+
 void MacNotificationCenter::observe(const std::string& name, Observer observer) {
-    // The centre keeps the block for the life of the process, as the agent's observers live.
+    VistrelNotificationObserver* receiver =
+        [[VistrelNotificationObserver alloc] initWithHandler:^(NSNotification* notification) {
+          NSDictionary* info = notification.userInfo;
+          dispatch_async(dispatch_get_main_queue(), ^{
+            NotificationCenter::UserInfo userInfo;
+            if (info != nil) userInfo = MacPropertyList::value(info).dictionary();
+            observer(userInfo);
+          });
+        }];
+    [observers() addObject:receiver];
     [NSDistributedNotificationCenter.defaultCenter
-        addObserverForName:nsString(name)
+               addObserver:receiver
+                  selector:@selector(receive:)
+                      name:nsString(name)
                     object:nil
-                     queue:NSOperationQueue.mainQueue
-                usingBlock:^(NSNotification* notification) {
-                  NotificationCenter::UserInfo userInfo;
-                  if (notification.userInfo != nil) {
-                      userInfo = MacPropertyList::value(notification.userInfo).dictionary();
-                  }
-                  observer(userInfo);
-                }];
+        suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
 }
 
 void MacNotificationCenter::post(const std::string& name, const UserInfo& userInfo) {

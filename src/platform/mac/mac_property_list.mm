@@ -30,8 +30,7 @@ DefaultsValue arrayValue(NSArray* source) {
 DefaultsValue dictionaryValue(NSDictionary* source) {
     DefaultsValue::Dictionary dictionary;
     for (id key in source) {
-        if (![key isKindOfClass:[NSString class]]) continue;
-        dictionary[[(NSString*)key UTF8String]] = value(source[key]);
+        if (auto name = utf8Text(key)) dictionary[*name] = value(source[key]);
     }
     return DefaultsValue(std::move(dictionary));
 }
@@ -42,7 +41,8 @@ DefaultsValue value(id object) {
     if (object == nil) return {};
     if ([object isKindOfClass:[NSNumber class]]) return numberValue(object);
     if ([object isKindOfClass:[NSString class]]) {
-        return DefaultsValue(std::string([(NSString*)object UTF8String]));
+        if (auto text = utf8Text(object)) return DefaultsValue(std::move(*text));
+        return {};
     }
     if ([object isKindOfClass:[NSData class]]) return dataValue(object);
     if ([object isKindOfClass:[NSArray class]]) return arrayValue(object);

@@ -15,17 +15,24 @@ constexpr CGFloat noteHeight = 110;
 constexpr CGFloat emailHeight = 24;
 constexpr CGFloat fieldSpacing = 8;
 
+// A text view grows with its text only up to its maxSize, which starts as its first frame:
+// without an unbounded height a long note would run past the view instead of scrolling.
 NSScrollView* noteField(NSTextView* __strong* textView) {
     NSScrollView* scroll = [[NSScrollView alloc]
         initWithFrame:NSMakeRect(0, emailHeight + fieldSpacing, accessoryWidth, noteHeight)];
     scroll.hasVerticalScroller = YES;
     scroll.borderType = NSBezelBorder;
+    const NSSize visible = scroll.contentSize;
     NSTextView* text =
-        [[NSTextView alloc] initWithFrame:NSMakeRect(0, 0, accessoryWidth, noteHeight)];
+        [[NSTextView alloc] initWithFrame:NSMakeRect(0, 0, visible.width, visible.height)];
     text.richText = NO;
     text.font = [NSFont systemFontOfSize:NSFont.systemFontSize];
+    text.minSize = NSMakeSize(0, visible.height);
+    text.maxSize = NSMakeSize(CGFLOAT_MAX, CGFLOAT_MAX);
     text.verticallyResizable = YES;
+    text.horizontallyResizable = NO;
     text.autoresizingMask = NSViewWidthSizable;
+    text.textContainer.size = NSMakeSize(visible.width, CGFLOAT_MAX);
     text.textContainer.widthTracksTextView = YES;
     text.automaticQuoteSubstitutionEnabled = NO;
     scroll.documentView = text;

@@ -1,4 +1,5 @@
 #include "platform/mac/mac_status_bar.h"
+#include "platform/mac/mac_strings.h"
 
 #import <AppKit/AppKit.h>
 
@@ -30,7 +31,7 @@ class MacStatusItem : public StatusItem {
     }
 
     void setAccessibilityLabel(const std::string& label) override {
-        [item_.button setAccessibilityLabel:[NSString stringWithUTF8String:label.c_str()]];
+        [item_.button setAccessibilityLabel:nsString(label)];
     }
 
     void setAction(std::function<void()> action) override {

@@ -7,13 +7,30 @@
 
 namespace vistrel {
 
-// Text between the core's UTF-8 strings and Foundation's.
-inline NSString* nsString(const std::string& value) {
-    return [NSString stringWithUTF8String:value.c_str()] ?: @"";
+// Text between the core's UTF-8 strings and Foundation's, by length in both directions:
+// `UTF8String` would cut a string at an embedded NUL (so "applySettings\0x" would read as
+// "applySettings") and answers NULL for a string it cannot convert.
+
+// Nothing for nil, for an object that is not a string, and for a string that has no
+// lossless UTF-8 form (dataUsingEncoding: answers nil then).
+inline std::optional<std::string> utf8Text(id value) {
+    if (value == nil || ![value isKindOfClass:[NSString class]]) return std::nullopt;
+    NSData* bytes = [(NSString*)value dataUsingEncoding:NSUTF8StringEncoding];
+    if (bytes == nil) return std::nullopt;
+    return std::string(static_cast<const char*>(bytes.bytes), bytes.length);
 }
 
-inline std::string utf8(NSString* value) {
-    return value != nil ? std::string(value.UTF8String) : std::string();
+// The empty string wherever `utf8Text` answers nothing.
+inline std::string utf8(id value) {
+    return utf8Text(value).value_or(std::string());
+}
+
+// The empty string for bytes that are not UTF-8.
+inline NSString* nsString(const std::string& value) {
+    return [[NSString alloc] initWithBytes:value.data()
+                                    length:value.size()
+                                  encoding:NSUTF8StringEncoding]
+               ?: @"";
 }
 
 // An error's localizedDescription, for log lines and alerts.

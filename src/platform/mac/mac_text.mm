@@ -1,4 +1,5 @@
 #include "platform/mac/mac_text.h"
+#include "platform/mac/mac_strings.h"
 
 #import <AppKit/AppKit.h>
 
@@ -24,7 +25,7 @@ NSFontWeight nsWeight(FontWeight weight) {
 // font of the same size when it is not there.
 NSFont* nsFont(const Font& font) {
     if (!font.name.empty()) {
-        NSString* name = [NSString stringWithUTF8String:font.name.c_str()];
+        NSString* name = nsString(font.name);
         if (NSFont* named = [NSFont fontWithName:name size:font.size]) return named;
     }
     return [NSFont systemFontOfSize:font.size weight:nsWeight(font.weight)];
@@ -33,7 +34,7 @@ NSFont* nsFont(const Font& font) {
 }  // namespace
 
 CFOwned<CTLineRef> makeTextLine(const TextRun& run) {
-    NSString* text = [NSString stringWithUTF8String:run.text.c_str()];
+    NSString* text = nsString(run.text);
     if (text == nil) return nullptr;
     const CFOwned<CGColorRef> color(
         CGColorCreateSRGB(run.color.red, run.color.green, run.color.blue, run.color.alpha));

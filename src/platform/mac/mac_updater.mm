@@ -5,17 +5,6 @@
 
 #include "platform/mac/mac_strings.h"
 
-// The user driver's delegate: the standard driver may remind the user gently of a
-// scheduled update, as an agent without a Dock icon cannot draw attention otherwise.
-@interface VistrelUpdateDriverDelegate : NSObject <SPUStandardUserDriverDelegate>
-@end
-
-@implementation VistrelUpdateDriverDelegate
-- (BOOL)supportsGentleScheduledUpdateReminders {
-    return YES;
-}
-@end
-
 namespace vistrel {
 
 namespace {
@@ -23,9 +12,10 @@ namespace {
 class MacUpdater : public Updater {
   public:
     MacUpdater()
-        : delegate_([[VistrelUpdateDriverDelegate alloc] init]),
-          driver_([[SPUStandardUserDriver alloc] initWithHostBundle:NSBundle.mainBundle
-                                                           delegate:delegate_]),
+        // No delegate, so no claim of gentle reminders that nothing here would show: the
+        // standard driver then brings its own window forward for a scheduled update.
+        : driver_([[SPUStandardUserDriver alloc] initWithHostBundle:NSBundle.mainBundle
+                                                           delegate:nil]),
           updater_([[SPUUpdater alloc] initWithHostBundle:NSBundle.mainBundle
                                         applicationBundle:NSBundle.mainBundle
                                                userDriver:driver_
@@ -37,9 +27,7 @@ class MacUpdater : public Updater {
         return describe(error);
     }
     std::optional<std::string> feedURL() override {
-        NSString* feed = updater_.feedURL.absoluteString;
-        if (feed == nil) return std::nullopt;
-        return std::string(feed.UTF8String);
+        return utf8Text(updater_.feedURL.absoluteString);
     }
     void checkForUpdates() override { [updater_ checkForUpdates]; }
     bool automaticallyDownloadsUpdates() override { return updater_.automaticallyDownloadsUpdates; }
@@ -48,8 +36,6 @@ class MacUpdater : public Updater {
     }
 
   private:
-    // The driver holds its delegate weakly, so the updater keeps it.
-    VistrelUpdateDriverDelegate* delegate_;
     SPUStandardUserDriver* driver_;
     SPUUpdater* updater_;
 };

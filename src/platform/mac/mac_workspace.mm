@@ -4,19 +4,11 @@
 #include <dispatch/dispatch.h>
 
 #include "platform/alpha.h"
+#include "platform/mac/mac_strings.h"
 
 namespace vistrel {
 
 namespace {
-
-std::optional<std::string> text(NSString* value) {
-    if (value == nil) return std::nullopt;
-    return std::string(value.UTF8String);
-}
-
-NSString* ns(const std::string& value) {
-    return [NSString stringWithUTF8String:value.c_str()];
-}
 
 ActivationPolicy policyOf(NSApplicationActivationPolicy policy) {
     switch (policy) {
@@ -30,9 +22,9 @@ ActivationPolicy policyOf(NSApplicationActivationPolicy policy) {
     return ActivationPolicy::prohibited;
 }
 
-RunningApplication describe(NSRunningApplication* app) {
-    return {app.processIdentifier,         text(app.bundleIdentifier),
-            text(app.localizedName),       policyOf(app.activationPolicy),
+RunningApplication describeApplication(NSRunningApplication* app) {
+    return {app.processIdentifier,         utf8Text(app.bundleIdentifier),
+            utf8Text(app.localizedName),   policyOf(app.activationPolicy),
             static_cast<bool>(app.hidden), static_cast<bool>(app.terminated)};
 }
 
@@ -52,7 +44,7 @@ Rect rect(NSRect r) {
 std::vector<RunningApplication> MacWorkspace::runningApplications() {
     std::vector<RunningApplication> result;
     for (NSRunningApplication* app in NSWorkspace.sharedWorkspace.runningApplications) {
-        result.push_back(describe(app));
+        result.push_back(describeApplication(app));
     }
     return result;
 }
@@ -60,7 +52,7 @@ std::vector<RunningApplication> MacWorkspace::runningApplications() {
 std::optional<RunningApplication> MacWorkspace::application(Pid pid) {
     NSRunningApplication* app = running(pid);
     if (app == nil) return std::nullopt;
-    return describe(app);
+    return describeApplication(app);
 }
 
 bool MacWorkspace::hide(Pid pid) {
@@ -80,9 +72,9 @@ bool MacWorkspace::forceTerminate(Pid pid) {
 }
 
 std::optional<std::string> MacWorkspace::applicationURL(const std::string& bundleIdentifier) {
-    NSURL* url =
-        [NSWorkspace.sharedWorkspace URLForApplicationWithBundleIdentifier:ns(bundleIdentifier)];
-    return url == nil ? std::nullopt : text(url.path);
+    NSURL* url = [NSWorkspace.sharedWorkspace
+        URLForApplicationWithBundleIdentifier:nsString(bundleIdentifier)];
+    return url == nil ? std::nullopt : utf8Text(url.path);
 }
 
 namespace {
@@ -94,7 +86,7 @@ NSWorkspaceOpenConfiguration* nsConfiguration(const OpenConfiguration& configura
     open.createsNewApplicationInstance = configuration.createsNewApplicationInstance;
     NSMutableArray<NSString*>* arguments = [NSMutableArray array];
     for (const std::string& argument : configuration.arguments)
-        [arguments addObject:ns(argument)];
+        [arguments addObject:nsString(argument)];
     open.arguments = arguments;
     return open;
 }
@@ -104,12 +96,12 @@ NSWorkspaceOpenConfiguration* nsConfiguration(const OpenConfiguration& configura
 void MacWorkspace::openApplication(const std::string& url, const OpenConfiguration& configuration,
                                    OpenCompletion completion) {
     NSWorkspaceOpenConfiguration* open = nsConfiguration(configuration);
-    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
+    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:nsString(url)]
                                         configuration:open
                                     completionHandler:^(NSRunningApplication* app, NSError* error) {
                                       const bool ok = app != nil && error == nil;
                                       const std::string reason =
-                                          error != nil ? error.localizedDescription.UTF8String : "";
+                                          error != nil ? describe(error) : std::string();
                                       dispatch_async(dispatch_get_main_queue(), ^{
                                         completion(ok, reason);
                                       });
@@ -122,7 +114,7 @@ bool MacWorkspace::launchApplication(const std::string& url, const OpenConfigura
                                      double timeout) {
     dispatch_semaphore_t done = dispatch_semaphore_create(0);
     __block bool launched = false;
-    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:ns(url)]
+    [NSWorkspace.sharedWorkspace openApplicationAtURL:[NSURL fileURLWithPath:nsString(url)]
                                         configuration:nsConfiguration(configuration)
                                     completionHandler:^(NSRunningApplication* app, NSError* error) {
                                       launched = app != nil && error == nil;
@@ -139,7 +131,7 @@ std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bu
                                                            int pixels) {
     const auto location = applicationURL(bundleIdentifier);
     if (!location || pixels <= 0) return nullptr;
-    NSImage* icon = [NSWorkspace.sharedWorkspace iconForFile:ns(*location)];
+    NSImage* icon = [NSWorkspace.sharedWorkspace iconForFile:nsString(*location)];
     NSBitmapImageRep* bitmap =
         [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
                                                 pixelsWide:pixels
@@ -169,7 +161,7 @@ std::shared_ptr<const Image> MacWorkspace::applicationIcon(const std::string& bu
 }
 
 bool MacWorkspace::openURL(const std::string& url) {
-    NSURL* target = [NSURL URLWithString:ns(url)];
+    NSURL* target = [NSURL URLWithString:nsString(url)];
     return target != nil && [NSWorkspace.sharedWorkspace openURL:target];
 }
 
@@ -180,12 +172,14 @@ Pid MacWorkspace::ownPid() {
 BundleInfo MacWorkspace::mainBundle() {
     NSBundle* bundle = NSBundle.mainBundle;
     NSDictionary* info = bundle.infoDictionary;
-    return {text(bundle.bundleIdentifier), text(info[@"CFBundleShortVersionString"]).value_or(""),
-            text(info[@"CFBundleVersion"]).value_or(""), text(bundle.bundlePath).value_or("")};
+    return {utf8Text(bundle.bundleIdentifier),
+            utf8Text(info[@"CFBundleShortVersionString"]).value_or(""),
+            utf8Text(info[@"CFBundleVersion"]).value_or(""),
+            utf8Text(bundle.bundlePath).value_or("")};
 }
 
 std::optional<std::string> MacWorkspace::bundleIdentifier(const std::string& bundlePath) {
-    return text([NSBundle bundleWithPath:ns(bundlePath)].bundleIdentifier);
+    return utf8Text([NSBundle bundleWithPath:nsString(bundlePath)].bundleIdentifier);
 }
 
 std::vector<ScreenDescription> MacScreenList::screens() {
@@ -195,7 +189,7 @@ std::vector<ScreenDescription> MacScreenList::screens() {
         std::optional<std::uint32_t> displayID;
         if ([number isKindOfClass:[NSNumber class]]) displayID = number.unsignedIntValue;
         result.push_back({rect(screen.frame), rect(screen.visibleFrame), displayID,
-                          screen.backingScaleFactor, text(screen.localizedName).value_or("")});
+                          screen.backingScaleFactor, utf8Text(screen.localizedName).value_or("")});
     }
     return result;
 }

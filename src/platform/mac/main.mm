@@ -35,7 +35,7 @@ namespace {
 // delayed work on the capture's own queue (dispatch_after), a bounded number of times, so
 // the main thread sleeps in dispatch_main rather than spinning. The prompt is flushed at
 // once: when the output goes to a pipe it would otherwise show only at the end.
-[[noreturn]] void capture(const vistrel::MissionControlCapture::Request& request) {
+[[noreturn]] int capture(const vistrel::MissionControlCapture::Request& request) {
     using vistrel::MissionControlCapture::Outcome;
     std::puts("mission control: open Mission Control within a minute to capture it");
     std::fflush(stdout);
@@ -46,23 +46,27 @@ namespace {
     dispatch_main();
 }
 
+// The agent: an accessory application (a status item, no Dock icon) over the core.
+int runApplication() {
+    // The application holds its delegate weakly; this one lives as long as the process.
+    static VistrelAppDelegate* delegate = [[VistrelAppDelegate alloc] init];
+    NSApplication* application = NSApplication.sharedApplication;
+    application.delegate = delegate;
+    application.activationPolicy = NSApplicationActivationPolicyAccessory;
+    [application run];
+    return 0;
+}
+
 }  // namespace
 
-// The agent: an accessory application (a status item, no Dock icon) over the core.
 int main() {
     @autoreleasepool {
-        static vistrel::MacPlatform machine;
-        vistrel::installPlatform(&machine.platform());
-        const auto arguments = machine.platform().launch.arguments();
-        if (auto request = vistrel::MissionControlCapture::requested(arguments)) capture(*request);
-        return vistrel::AgentMain::run(std::cout, [] {
-            // The application holds its delegate weakly; this one lives as long as the process.
-            static VistrelAppDelegate* delegate = [[VistrelAppDelegate alloc] init];
-            NSApplication* application = NSApplication.sharedApplication;
-            application.delegate = delegate;
-            application.activationPolicy = NSApplicationActivationPolicyAccessory;
-            [application run];
-            return 0;
-        });
+        // Made on the heap and never destroyed: quitting ends in exit(), which runs static
+        // destructors while dispatch queues may still call into the platform. Building it
+        // touches no AppKit, so "--diagnose" and the capture make no application object.
+        auto* machine = new vistrel::MacPlatform;
+        vistrel::installPlatform(&machine->platform());
+        return vistrel::AgentMain::run(std::cout,
+                                       {.capture = capture, .application = runApplication});
     }
 }

@@ -14,9 +14,9 @@ namespace vistrel {
 // when the script has run out.
 class SimModalAlert : public ModalAlert {
   public:
-    std::size_t run(const AlertContent& alert) override {
+    std::optional<std::size_t> run(const AlertContent& alert) override {
         shown.push_back(alert);
-        std::size_t button = 0;
+        std::optional<std::size_t> button = 0;
         if (!answers.empty()) {
             button = answers.front();
             answers.pop_front();
@@ -25,9 +25,10 @@ class SimModalAlert : public ModalAlert {
         return button;
     }
 
-    std::deque<std::size_t> answers;
+    // A scripted answer of nothing ends the alert without a button, as an aborted one does.
+    std::deque<std::optional<std::size_t>> answers;
     std::vector<AlertContent> shown;
-    std::function<void(const AlertContent&, std::size_t button)> observer;
+    std::function<void(const AlertContent&, std::optional<std::size_t> button)> observer;
 };
 
 }  // namespace vistrel

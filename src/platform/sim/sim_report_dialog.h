@@ -15,7 +15,7 @@ class SimReportDialog : public ReportDialog {
     ReportDialogAnswer run(const ReportDialogContent& dialog) override {
         shown.push_back(dialog);
         ReportDialogAnswer answer;
-        answer.button = dialog.alert.buttons.empty() ? 0 : dialog.alert.buttons.size() - 1;
+        if (!dialog.alert.buttons.empty()) answer.button = dialog.alert.buttons.size() - 1;
         if (!answers.empty()) {
             answer = answers.front();
             answers.pop_front();

@@ -3,6 +3,7 @@
 #include <AppKit/NSModalResponse.h>
 #include <AppKit/NSView.h>
 #include <AppKit/NSWindow.h>
+#include <Foundation/NSArray.h>
 #include <Foundation/NSString.h>
 
 @class NSButton;
@@ -17,6 +18,7 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 @property(copy) NSString* informativeText;
 // The first button added is the default (Return); one titled "Cancel" answers Escape.
 - (NSButton*)addButtonWithTitle:(NSString*)title;
+@property(readonly, copy) NSArray<NSButton*>* buttons;
 @property(nullable, strong) NSView* accessoryView;
 // Lays the alert out now, so its window can be adjusted before it runs.
 - (void)layout;

@@ -8,6 +8,7 @@
 - (void)applicationDidFinishLaunching:(NSNotification*)notification;
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag;
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)sender;
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)app VISTREL_MACOS(12.0);
 @end
 
 @interface NSApplication (Delegate)

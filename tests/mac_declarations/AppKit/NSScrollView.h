@@ -19,4 +19,6 @@ VISTREL_ENUM(NSUInteger, NSBorderType){
 @property(nullable, strong) __kindof NSView* documentView;
 @property BOOL drawsBackground;
 @property(strong) NSClipView* contentView;
+// The size of the clip view, inside the scroll view's border.
+@property(readonly) NSSize contentSize;
 @end

@@ -9,6 +9,9 @@
 @property(getter=isRichText) BOOL richText;
 @property(nullable, strong) NSFont* font;
 @property(getter=isVerticallyResizable) BOOL verticallyResizable;
+@property(getter=isHorizontallyResizable) BOOL horizontallyResizable;
+@property NSSize minSize;
+@property NSSize maxSize;
 - (void)cut:(nullable id)sender;
 - (void)copy:(nullable id)sender;
 - (void)paste:(nullable id)sender;

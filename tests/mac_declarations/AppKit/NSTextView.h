@@ -4,6 +4,7 @@
 
 @interface NSTextContainer : NSObject
 @property BOOL widthTracksTextView;
+@property NSSize size VISTREL_MACOS(10.11);
 @end
 
 @interface NSTextView : NSText

@@ -23,6 +23,7 @@
 #include <Foundation/NSOperationQueue.h>
 #include <Foundation/NSPathUtilities.h>
 #include <Foundation/NSProcessInfo.h>
+#include <Foundation/NSProcessInfoActivity.h>
 #include <Foundation/NSProcessInfoLaunch.h>
 #include <Foundation/NSProcessInfoSystem.h>
 #include <Foundation/NSRunLoop.h>

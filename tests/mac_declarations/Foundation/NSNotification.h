@@ -20,8 +20,18 @@ typedef NSString* NSNotificationName;
     VISTREL_MACOS(10.6);
 @end
 
+VISTREL_ENUM(NSUInteger, NSNotificationSuspensionBehavior){
+    NSNotificationSuspensionBehaviorDeliverImmediately = 4,
+};
+
 @interface NSDistributedNotificationCenter : NSNotificationCenter
 + (NSDistributedNotificationCenter*)defaultCenter;
+// The centre does not retain the observer.
+- (void)addObserver:(id)observer
+              selector:(SEL)selector
+                  name:(nullable NSNotificationName)name
+                object:(nullable NSString*)object
+    suspensionBehavior:(NSNotificationSuspensionBehavior)suspensionBehavior;
 - (void)postNotificationName:(NSNotificationName)name
                       object:(nullable NSString*)object
                     userInfo:(nullable NSDictionary*)userInfo

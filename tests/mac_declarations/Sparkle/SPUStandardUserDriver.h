@@ -6,9 +6,6 @@
 @end
 
 @protocol SPUStandardUserDriverDelegate <NSObject>
-@optional
-// Whether the app shows its own gentle reminder of a scheduled update.
-@property(nonatomic, readonly) BOOL supportsGentleScheduledUpdateReminders;
 @end
 
 @interface SPUStandardUserDriver : NSObject <SPUUserDriver>

@@ -1,5 +1,6 @@
 #include "platform/mac/settings_app/settings_layout_list.h"
 
+#include <optional>
 #include <vector>
 
 #include "platform/mac/mac_block_target.h"
@@ -10,7 +11,7 @@ namespace {
 
 constexpr CGFloat tableHeight = 170;
 constexpr CGFloat detailWidth = 110;
-constexpr std::size_t cancelButton = 1;
+constexpr std::size_t deleteButton = 0;
 
 NSString* const nameColumn = @"name";
 NSString* const detailColumn = @"detail";
@@ -134,11 +135,12 @@ NSString* const detailColumn = @"detail";
     const NSInteger selected = table_.selectedRow;
     if (selected < 0 || selected >= static_cast<NSInteger>(rows_.size())) return;
     const vistrel::LayoutRow row = rows_[static_cast<std::size_t>(selected)];
-    const std::size_t answer =
+    const std::optional<std::size_t> answer =
         vistrel::platform().alert.run({"Delete “" + row.name + "”?",
                                        "The layout cannot be restored after it is deleted.",
                                        {"Delete", "Cancel"}});
-    if (answer == cancelButton) return;
+    // Only the Delete button deletes: Cancel, Escape and an aborted alert keep the layout.
+    if (answer != deleteButton) return;
     model_->deleteLayout(row.id);
 }
 

@@ -43,6 +43,12 @@
     return YES;
 }
 
+// Restorable state is decoded securely; macOS 14 warns about every app that does not say so.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication*)app {
+    (void)app;
+    return YES;
+}
+
 @end
 
 // Vistrel Settings: a regular application with a Dock icon while its window is open.

@@ -17,6 +17,17 @@ constexpr std::int64_t welcomeKeyBase = 1000;
 
 }  // namespace
 
+// A clip view whose origin is its top-left corner, so that a page shorter than the window
+// sits at the top instead of sinking to the bottom of the scroll view.
+@interface VistrelFlippedClipView : NSClipView
+@end
+
+@implementation VistrelFlippedClipView
+- (BOOL)isFlipped {
+    return YES;
+}
+@end
+
 @implementation VistrelSettingsWindow {
     vistrel::SettingsModel* model_;
     NSWindow* window_;
@@ -66,6 +77,7 @@ constexpr std::int64_t welcomeKeyBase = 1000;
     sidebarItem_.canCollapse = NO;
 
     scroll_ = [[NSScrollView alloc] initWithFrame:NSZeroRect];
+    scroll_.contentView = [[VistrelFlippedClipView alloc] initWithFrame:NSZeroRect];
     scroll_.hasVerticalScroller = YES;
     scroll_.drawsBackground = NO;
     NSStackView* content = [NSStackView stackViewWithViews:@[ scroll_, [self makeBar] ]];
@@ -130,7 +142,10 @@ constexpr std::int64_t welcomeKeyBase = 1000;
 - (void)showPage {
     page_ = [[VistrelSettingsPageView alloc] initWithPage:model_->currentPage() model:*model_];
     scroll_.documentView = page_;
-    [page_.widthAnchor constraintEqualToAnchor:scroll_.contentView.widthAnchor].active = YES;
+    NSClipView* clip = scroll_.contentView;
+    [page_.topAnchor constraintEqualToAnchor:clip.topAnchor].active = YES;
+    [page_.leadingAnchor constraintEqualToAnchor:clip.leadingAnchor].active = YES;
+    [page_.widthAnchor constraintEqualToAnchor:clip.widthAnchor].active = YES;
 }
 
 // A window in the Dock shows nothing, so the model stops reading the keys meanwhile.
