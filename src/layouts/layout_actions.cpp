@@ -18,7 +18,6 @@ namespace vistrel {
 namespace {
 
 constexpr std::string_view raiseAction = "AXRaise";
-constexpr std::string_view frontmost = "AXFrontmost";
 
 // Hands the work to the layouts queue.
 void work(Task task) {
@@ -100,15 +99,17 @@ void LayoutActions::leaveMissionControl(std::vector<WindowRef> raising) {
         escapeRecheck, [raising = std::move(raising)] { escapeAgainIfStillOpen(raising); });
 }
 
+// Each window is raised, then its application activated without all its windows, which
+// brings forward only the window just raised: making the application frontmost through the
+// accessibility interface would lift every one of its windows over the layout.
 void LayoutActions::raise(const std::vector<WindowRef>& windows) {
-    Accessibility& accessibility = platform().accessibility;
+    Platform& p = platform();
     // Backwards, so that the first window ends up in front.
     for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
-        if (it != windows.rbegin()) platform().clock.sleep(raisePause);
-        accessibility.performAction(it->element, raiseAction);
-        const AXElement app = accessibility.application(it->pid);
-        WindowAttribute::setTimeout(app, frontmostTimeout);
-        WindowAttribute::write(app, frontmost, true);
+        if (it != windows.rbegin()) p.clock.sleep(raisePause);
+        WindowAttribute::setTimeout(it->element, WindowAttribute::actionTimeout);
+        p.accessibility.performAction(it->element, raiseAction);
+        p.workspace.activate(it->pid);
     }
 }
 

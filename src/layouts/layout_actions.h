@@ -43,7 +43,6 @@ struct LayoutActions {
     static constexpr double escapeRecheck = 0.8;
     // Pause between raising one window and the next.
     static constexpr double raisePause = 0.03;
-    static constexpr float frontmostTimeout = 0.5f;
     static constexpr std::uint16_t escapeKeyCode = 53;
 
     // The visible windows as a new layout; none when there are none.
@@ -59,8 +58,8 @@ struct LayoutActions {
     // Closes Mission Control with Escape and raises the windows, the first in front. Runs
     // on the layouts queue.
     static void leaveMissionControl(std::vector<WindowRef> raising);
-    // Raises the windows from the last to the first, each with its application brought
-    // forward, pausing between them. Blocks; layouts queue only.
+    // Raises the windows from the last to the first, each with its application activated
+    // without its other windows, pausing between them. Blocks; layouts queue only.
     static void raise(const std::vector<WindowRef>& windows);
 
     // The "layouts.gap" setting clamped to 0...40 points.

@@ -53,6 +53,8 @@ class Workspace {
     // NSRunningApplication(processIdentifier:); nothing when no such process runs.
     virtual std::optional<RunningApplication> application(Pid pid) = 0;
     // hide(), unhide(), activate(), terminate(), forceTerminate(): whether the call succeeded.
+    // activate() passes no options: without NSApplicationActivateAllWindows only the
+    // application's key and main windows come forward.
     virtual bool hide(Pid pid) = 0;
     virtual bool unhide(Pid pid) = 0;
     virtual bool activate(Pid pid) = 0;

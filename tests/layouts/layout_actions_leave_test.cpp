@@ -128,18 +128,31 @@ TEST_F(LayoutActionsLeaveTest, RaisingPausesBetweenWindows) {
     EXPECT_NEAR(desktop.clock().now() - start, 2 * LayoutActions::raisePause, 1e-6);
 }
 
-TEST_F(LayoutActionsLeaveTest, RaisingBringsEachApplicationForwardWithAShortTimeout) {
+TEST_F(LayoutActionsLeaveTest, RaisingActivatesEachApplicationLastWindowFirst) {
+    LayoutActions::raise(raising());
+
+    EXPECT_EQ(desktop.workspace().activations,
+              (std::vector<Pid>{pidOf("com.apple.Notes"), pidOf("com.apple.mail"),
+                                pidOf("com.apple.finder")}));
+}
+
+// Setting AXFrontmost on the application element, like activating it with all its windows,
+// would lift every window it has over the layout.
+TEST_F(LayoutActionsLeaveTest, RaisingOneWindowOfAnApplicationLeavesItsOtherWindowsBehind) {
+    SimWindow second;
+    second.title = "Drafts – iCloud";
+    second.frame = {200, 200, 700, 500};
+    desktop.addWindow(pidOf("com.apple.mail"), second);
+    desktop.bringToFront(windowTitled("Drafts – iCloud"));
     testing::RecordingAccessibility recording(desktop.platform());
 
     LayoutActions::raise(raising());
 
-    const auto frontmost = std::count(recording.writes.begin(), recording.writes.end(),
-                                      testing::RecordingAccessibility::Write{"AXFrontmost", true});
-    EXPECT_EQ(frontmost, 3);
-    for (const char* bundleID : {"com.apple.finder", "com.apple.mail", "com.apple.Notes"}) {
-        const AXElement app = desktop.accessibility().application(pidOf(bundleID));
-        EXPECT_FLOAT_EQ(desktop.accessibility().messagingTimeout(app), 0.5f) << bundleID;
-    }
+    EXPECT_EQ(front(4), (std::vector<std::string>{"Applications", "Inbox – iCloud", "Notes",
+                                                  "Drafts – iCloud"}));
+    EXPECT_EQ(std::count_if(recording.writes.begin(), recording.writes.end(),
+                            [](const auto& write) { return write.attribute == "AXFrontmost"; }),
+              0);
 }
 
 TEST_F(LayoutActionsLeaveTest, AWindowThatClosedDoesNotStopTheOthersFromBeingRaised) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/sim/sim_application_attribute.h"
 #include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_window_part.h"
 
@@ -296,11 +297,8 @@ AXError SimAccessibility::setAttribute(const AXElement& element, std::string_vie
                                        const AXValue& value) {
     if (const AXError entered = enter(element); entered != AXError::success) return entered;
     const SimHandle& handle = *handleOf(element);
-    if (handle.kind == Kind::application && attribute == "AXEnhancedUserInterface") {
-        const bool* on = std::get_if<bool>(&value);
-        if (on == nullptr) return AXError::illegalArgument;
-        desktop_.application(handle.pid)->enhancedUserInterface = *on;
-        return AXError::success;
+    if (handle.kind == Kind::application) {
+        return writeApplicationAttribute(desktop_, handle.pid, attribute, value);
     }
     if (handle.kind != Kind::window) return AXError::attributeUnsupported;
     SimWindow* window = desktop_.window(handle.id);

@@ -113,6 +113,11 @@ void SimDesktop::bringToFront(SimWindowId id) {
     if (found != windows_.end()) std::rotate(windows_.begin(), found, found + 1);
 }
 
+void SimDesktop::bringApplicationToFront(Pid pid) {
+    std::stable_partition(windows_.begin(), windows_.end(),
+                          [pid](const SimWindow& w) { return w.pid == pid; });
+}
+
 void SimDesktop::closeWindow(SimWindowId id) {
     if (SimWindow* w = window(id)) w->closed = true;
 }

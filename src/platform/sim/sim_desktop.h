@@ -120,6 +120,8 @@ class SimDesktop {
     const std::vector<SimWindow>& windows() const { return windows_; }
     std::vector<SimWindowId> windowsOf(Pid pid) const;
     void bringToFront(SimWindowId id);
+    // Every window of the application to the front, keeping their order among themselves.
+    void bringApplicationToFront(Pid pid);
     void closeWindow(SimWindowId id);
     // Windows the window server shows: open, not minimized, application not hidden or gone.
     bool isOnScreen(const SimWindow& window) const;

@@ -55,6 +55,14 @@ bool SimWorkspace::activate(Pid pid) {
     if (app == nullptr || app->terminated) return false;
     app->hidden = false;
     activations.push_back(pid);
+    // Without NSApplicationActivateAllWindows only the application's front window comes
+    // forward; its other windows keep their places.
+    for (const SimWindow& window : desktop_.windows()) {
+        if (window.pid == pid && desktop_.isOnScreen(window)) {
+            desktop_.bringToFront(window.id);
+            break;
+        }
+    }
     return true;
 }
 
