@@ -53,7 +53,10 @@ Engine::Engine(Private, std::unique_ptr<EngineLayouts> layouts)
       axQueue_(platform().executor.makeQueue(std::string(hoverQueueLabel),
                                              QualityOfService::userInteractive)),
       hitTest_(std::make_shared<HitTest>()),
-      targets_(std::make_shared<ThumbnailTargets>()) {
+      targets_(std::make_shared<ThumbnailTargets>()),
+      moves_([this](Point point, bool dragged) {
+          dragged ? pointerDragged(point) : pointerMoved(point);
+      }) {
     hitTest_->targets = targets_;
 }
 
@@ -247,6 +250,14 @@ bool Engine::insideStrip(Point point) const {
 }
 
 void Engine::tapMouseMoved(Point point) {
+    moves_.post(point, false);
+}
+
+void Engine::tapMouseDragged(Point point) {
+    moves_.post(point, true);
+}
+
+void Engine::pointerMoved(Point point) {
     if (lastPoint_ == point) return;
     lastPoint_ = point;
     if (layouts_->pointerMoved(point)) {
@@ -272,9 +283,9 @@ void Engine::tapMouseMoved(Point point) {
     lookUp(point);
 }
 
-void Engine::tapMouseDragged(Point point) {
+void Engine::pointerDragged(Point point) {
     if (!layouts_->mouseDragged(point)) {
-        tapMouseMoved(point);
+        pointerMoved(point);
         return;
     }
     if (target_) clearTarget();
@@ -282,6 +293,7 @@ void Engine::tapMouseDragged(Point point) {
 }
 
 bool Engine::tapMouseDown(Point point, std::uint64_t flags) {
+    moves_.flush();
     if (layouts_->shelfClick(point, flags)) {
         clearTarget();
         return true;
@@ -310,10 +322,12 @@ bool Engine::tapMouseDown(Point point, std::uint64_t flags) {
 }
 
 void Engine::tapMouseUp(Point point) {
+    moves_.flush();
     layouts_->mouseUp(point);
 }
 
 void Engine::tapFlagsChanged(std::uint64_t flags) {
+    moves_.flush();
     const bool held = (flags & ModifierFlag::option) != 0;
     if (held != layouts_->optionHeld()) layouts_->setOptionHeld(held);
 }
@@ -345,6 +359,7 @@ bool Engine::layoutsKeyDown(std::int64_t code, std::uint64_t flags, bool isRepea
 }
 
 bool Engine::tapKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) {
+    moves_.flush();
     if (layouts_->isOpen() && layoutsKeyDown(code, flags, isRepeat)) return true;
     const auto action = matchHotkey(code, flags);
     if (!action || Settings::shared().hotkeyDisabled(*action) || !target_) return false;

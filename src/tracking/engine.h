@@ -16,6 +16,7 @@
 #include "tracking/mission_control_detector.h"
 #include "tracking/mission_control_reading.h"
 #include "tracking/overlay_layout.h"
+#include "tracking/pointer_coalescer.h"
 #include "tracking/thumbnail_reader.h"
 #include "tracking/thumbnail_targets.h"
 #include "views/overlay_button.h"
@@ -87,6 +88,9 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     void ensureTap();
     void refreshThumbnails();
     void thumbnailsRead(const std::vector<Rect>& frames, const MissionControlReading& reading);
+    // A pointer move on its turn of the main queue, after the tap's callback returned.
+    void pointerMoved(Point point);
+    void pointerDragged(Point point);
     void lookUp(Point point);
     void apply(const std::optional<Target>& candidate, Point point);
     std::optional<Rect> smallestThumbAt(Point point) const;
@@ -115,6 +119,7 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     // The thumbnails' windows; read and written on the hover queue only.
     std::shared_ptr<ThumbnailTargets> targets_;
     MissionControlReading reading_;
+    PointerCoalescer moves_;
     bool hostLogged_ = false;
     bool lookupBusy_ = false;
     std::optional<Point> pendingLookup_;

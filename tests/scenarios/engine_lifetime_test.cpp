@@ -18,6 +18,7 @@ class EngineLifetimeTest : public EngineScenario {
 TEST_F(EngineLifetimeTest, EngineFreedWhileAHitTestWaitsOnTheHoverQueueIsLeftAlone) {
     openMissionControl();
     desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Notes"))));
+    desktop.executor().mainQueue().runOne();
     ASSERT_EQ(hoverQueue().pending(), 1u);
     const auto hitTestsBefore = desktop.accessibility().hitTests();
     engine.reset();

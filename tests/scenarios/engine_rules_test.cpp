@@ -198,6 +198,7 @@ TEST_F(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAn
     move(inside(thumbOf("Notes")));
     ASSERT_TRUE(engine->target());
     desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Start Page"))));
+    desktop.executor().mainQueue().runOne();
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
     settle();

@@ -90,6 +90,7 @@ TEST_F(LayoutsEngineTest, DraggingAThumbnailOntoATemplateSlotPlacesTheWindowTher
     const Point bottomRight{grid.screen.minX() + grid.screen.width * 0.75,
                             grid.screen.minY() + grid.screen.height * 0.75};
     desktop.eventTap().deliver(SimInput::mouseDragged(bottomRight));
+    desktop.executor().mainQueue().runOne();
     EXPECT_EQ(layouts().dropSlot(), (SlotRef{4, 3}));
     release(bottomRight);
     desktop.executor().advance(2);
