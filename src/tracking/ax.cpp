@@ -56,6 +56,21 @@ std::vector<AXElement> elements(const AXElement& element, std::string_view attri
     return value<std::vector<AXElement>>(element, attribute).value_or(std::vector<AXElement>{});
 }
 
+std::optional<AXElement> element(const AXElement& parent, std::string_view attribute,
+                                 float timeout) {
+    auto found = element(parent, attribute);
+    if (found) accessibility().setMessagingTimeout(*found, timeout);
+    return found;
+}
+
+std::vector<AXElement> elements(const AXElement& parent, std::string_view attribute,
+                                float timeout) {
+    auto found = elements(parent, attribute);
+    for (const AXElement& child : found)
+        accessibility().setMessagingTimeout(child, timeout);
+    return found;
+}
+
 std::optional<Rect> frame(const AXElement& element) {
     return value<Rect>(element, frameAttribute);
 }

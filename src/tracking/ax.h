@@ -22,8 +22,12 @@ namespace vistrel {
 // Stateless apart from the system-wide element, so callable from any thread.
 namespace AX {
 
-// Hit-tests start from the system-wide element; a hung application then costs at most
-// this long instead of the system's default of several seconds.
+// A time-out set on an element holds for that element alone, except on the system-wide
+// element, where it becomes the default of every element without one of its own
+// (AXUIElementSetMessagingTimeout). The default is set once, on purpose, when the
+// system-wide element is made: the hit test's, so that a hung application costs a hover at
+// most this long. Only the hit test and the elements it answers go by it; every other
+// element read or acted on is given the time-out of its own kind of work first.
 inline constexpr float systemWideTimeout = 0.2f;
 
 // Attribute names.
@@ -65,6 +69,11 @@ std::optional<T> value(const AXElement& element, std::string_view attribute) {
 std::optional<std::string> string(const AXElement& element, std::string_view attribute);
 std::optional<AXElement> element(const AXElement& element, std::string_view attribute);
 std::vector<AXElement> elements(const AXElement& element, std::string_view attribute);
+// The same, each element found given `timeout` before anything is asked of it.
+std::optional<AXElement> element(const AXElement& element, std::string_view attribute,
+                                 float timeout);
+std::vector<AXElement> elements(const AXElement& element, std::string_view attribute,
+                                float timeout);
 // "AXFrame" as a rectangle; nothing when it holds any other kind of value.
 std::optional<Rect> frame(const AXElement& element);
 // Whether the attribute can be written; a failing query counts as "no".

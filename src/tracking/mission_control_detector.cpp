@@ -35,6 +35,7 @@ std::optional<bool> dockAnswer(ApplicationElement& dock) {
     const auto* list = std::get_if<std::vector<AXElement>>(&read);
     if (error != AXError::success || !list) return false;
     for (const AXElement& child : *list) {
+        platform().accessibility.setMessagingTimeout(child, ThumbnailReader::dockTimeout);
         if (AX::string(child, identifier) == ThumbnailReader::missionControlIdentifier) {
             return true;
         }

@@ -48,9 +48,9 @@ std::optional<std::vector<MissionControlThumbnail>> ThumbnailReader::dockThumbna
     if (!dock) return std::nullopt;
     bool found = false;
     std::vector<MissionControlThumbnail> thumbnails;
-    for (const AXElement& container : AX::elements(*dock, children)) {
+    for (const AXElement& container : AX::elements(*dock, children, dockTimeout)) {
         if (!isIdentified(container, missionControlIdentifier)) continue;
-        for (const AXElement& level : AX::elements(container, children)) {
+        for (const AXElement& level : AX::elements(container, children, dockTimeout)) {
             found = true;
             appendGroups(level, thumbnails);
         }
@@ -73,13 +73,13 @@ void ThumbnailReader::appendGroups(const AXElement& level,
                                    std::vector<MissionControlThumbnail>& thumbnails) {
     std::optional<Rect> display;
     bool displayRead = false;
-    for (const AXElement& group : AX::elements(level, children)) {
+    for (const AXElement& group : AX::elements(level, children, dockTimeout)) {
         if (!isIdentified(group, windowsIdentifier)) continue;
         if (!displayRead) {
             display = AX::frame(level);
             displayRead = true;
         }
-        for (const AXElement& thumbnail : AX::elements(group, children)) {
+        for (const AXElement& thumbnail : AX::elements(group, children, dockTimeout)) {
             const auto frame = AX::frame(thumbnail);
             if (!frame) continue;
             thumbnails.push_back({thumbnail, *frame, 0, AX::string(thumbnail, title),

@@ -41,7 +41,8 @@ std::optional<AX::WindowHit> find(std::uint32_t number, const AXElement& thumbna
     const AXElement application = accessibility.application(entry->pid);
     accessibility.setMessagingTimeout(application, applicationTimeout);
     std::vector<AXElement> matching;
-    for (const AXElement& window : AX::elements(application, windowsAttribute)) {
+    for (const AXElement& window :
+         AX::elements(application, windowsAttribute, applicationTimeout)) {
         const auto frame = AX::frame(window);
         if (frame && matches(*frame, entry->bounds)) matching.push_back(window);
     }

@@ -28,7 +28,8 @@ void WindowCatalog::appendApplication(Pid pid, const std::string& bundleIdentifi
     Accessibility& accessibility = platform().accessibility;
     const AXElement application = accessibility.application(pid);
     accessibility.setMessagingTimeout(application, applicationTimeout);
-    for (const AXElement& window : AX::elements(application, windowsAttribute)) {
+    for (const AXElement& window :
+         AX::elements(application, windowsAttribute, applicationTimeout)) {
         const auto frame = AX::frame(window);
         if (!frame || AX::value<bool>(window, minimizedAttribute).value_or(false)) continue;
         facts_.push_back(

@@ -53,7 +53,7 @@ std::vector<MissionControlThumbnail> WindowManagerThumbnails::read() {
     foundDisplay_ = false;
     const auto windowManager = windowManager_.get();
     if (!windowManager) return thumbnails;
-    const auto displays = AX::elements(*windowManager, children);
+    const auto displays = AX::elements(*windowManager, children, timeout);
     if (displays.empty()) return thumbnails;
     const std::vector<std::uint32_t> onScreen = onScreenWindows();
     for (const AXElement& display : displays) {
@@ -72,7 +72,7 @@ void WindowManagerThumbnails::appendDisplay(const AXElement& display,
                                             const std::vector<std::uint32_t>& onScreen,
                                             std::vector<MissionControlThumbnail>& thumbnails) {
     const auto displayFrame = AX::frame(display);
-    for (const AXElement& child : AX::elements(display, children)) {
+    for (const AXElement& child : AX::elements(display, children, timeout)) {
         const auto window = windowOf(child);
         if (window && std::find(onScreen.begin(), onScreen.end(), *window) == onScreen.end()) {
             continue;

@@ -62,7 +62,7 @@ void sleep(double seconds) {
 }
 
 bool pressButton(const AXElement& window, std::string_view button) {
-    const auto found = AX::element(window, button);
+    const auto found = AX::element(window, button, WindowAttribute::actionTimeout);
     return found && WindowAttribute::press(*found);
 }
 
@@ -172,7 +172,8 @@ bool WindowActions::closeAll(Pid pid) {
     const AXElement app = platform().accessibility.application(pid);
     WindowAttribute::setTimeout(app, WindowAttribute::actionTimeout);
     bool pressed = false;
-    for (const AXElement& window : AX::elements(app, WindowAttribute::windows)) {
+    for (const AXElement& window :
+         AX::elements(app, WindowAttribute::windows, WindowAttribute::actionTimeout)) {
         // A failed press leaves that window open but must not spare the others.
         if (close(window)) pressed = true;
     }

@@ -109,7 +109,8 @@ std::vector<OpenWindow> WindowMover::windows(const RunningApplication& app, bool
     const AXElement element = platform().accessibility.application(app.pid);
     WindowAttribute::setTimeout(element, enumerationTimeout);
     std::vector<OpenWindow> found;
-    for (const AXElement& window : AX::elements(element, WindowAttribute::windows)) {
+    for (const AXElement& window :
+         AX::elements(element, WindowAttribute::windows, enumerationTimeout)) {
         if (auto described = describe(window, app, includeMinimized)) {
             found.push_back(std::move(*described));
         }

@@ -122,12 +122,14 @@ std::size_t SimAccessibility::timeoutsSet() const {
     return timeoutsSet_;
 }
 
+std::vector<SimAccessibility::TimedCall> SimAccessibility::timedCalls() const {
+    std::lock_guard lock(mutex_);
+    return timedCalls_;
+}
+
 float SimAccessibility::messagingTimeout(const AXElement& element) const {
     std::lock_guard lock(mutex_);
-    const SimHandle* handle = handleOf(element);
-    const AXElement candidates[] = {
-        element, handle != nullptr ? make(Kind::application, handle->pid, 0) : AXElement(),
-        make(Kind::systemWide, 0, 0)};
+    const AXElement candidates[] = {element, make(Kind::systemWide, 0, 0)};
     for (const AXElement& candidate : candidates) {
         auto found = timeouts_.find(candidate);
         if (found != timeouts_.end()) return found->second;
@@ -155,6 +157,11 @@ AXError SimAccessibility::enter(const AXElement& element) {
     const auto owner = ownerOf(element);
     const SimApplication* app = owner ? desktop_.application(*owner) : nullptr;
     if (app == nullptr) return owner ? AXError::invalidUIElement : AXError::success;
+    if (recordTimeouts) {
+        const float timeout = messagingTimeout(element);
+        std::lock_guard lock(mutex_);
+        timedCalls_.push_back({app->pid, timeout});
+    }
     if (app->hung) {
         desktop_.clock().sleep(messagingTimeout(element));
         return AXError::cannotComplete;

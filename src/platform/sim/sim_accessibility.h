@@ -81,10 +81,20 @@ class SimAccessibility : public Accessibility {
     void resetCounts();
     // How many messaging time-outs were set, on any element.
     std::size_t timeoutsSet() const;
-    // The time-out a call on the element waits: its own; else its application element's
-    // (elements obtained through an application inherit it); else the one set on the
-    // system-wide element, which is process-wide; else the system's default.
+    // The time-out a call on the element waits: its own; else the one set on the
+    // system-wide element, which is the default of every element without its own; else the
+    // system's default. An element read from another inherits nothing: a time-out set on an
+    // application element is that element's alone (AXUIElementSetMessagingTimeout).
     float messagingTimeout(const AXElement& element) const;
+    // Every call that reached an application, with the time-out it waited under, while
+    // `recordTimeouts` is on.
+    struct TimedCall {
+        Pid pid = 0;
+        float timeout = 0;
+        friend bool operator==(const TimedCall&, const TimedCall&) = default;
+    };
+    bool recordTimeouts = false;
+    std::vector<TimedCall> timedCalls() const;
 
   private:
     struct Node {
@@ -111,6 +121,7 @@ class SimAccessibility : public Accessibility {
     SimNodeId nextNode_ = 1;
     std::map<std::string, std::size_t, std::less<>> reads_;
     std::size_t timeoutsSet_ = 0;
+    std::vector<TimedCall> timedCalls_;
 };
 
 }  // namespace vistrel
