@@ -31,17 +31,20 @@ TEST_F(SimAccessibilityTest, TimeoutOnTheSystemWideElementIsProcessWide) {
     EXPECT_FLOAT_EQ(ax().messagingTimeout(ax().windowElement(id)), 0.2f);
 }
 
-TEST_F(SimAccessibilityTest, ElementsInheritTheirApplicationsTimeout) {
+// AXUIElementSetMessagingTimeout: the system-wide element's time-out is the default of
+// every element; any other element's is its own.
+TEST_F(SimAccessibilityTest, AnApplicationsTimeoutIsItsOwnAndItsWindowsTakeTheDefault) {
     ax().setMessagingTimeout(ax().systemWide(), 0.2f);
     ax().setMessagingTimeout(ax().application(pid), 0.3f);
-    EXPECT_FLOAT_EQ(ax().messagingTimeout(ax().windowElement(id)), 0.3f);
+    EXPECT_FLOAT_EQ(ax().messagingTimeout(ax().application(pid)), 0.3f);
+    EXPECT_FLOAT_EQ(ax().messagingTimeout(ax().windowElement(id)), 0.2f);
     ax().setMessagingTimeout(ax().windowElement(id), 1.0f);
     EXPECT_FLOAT_EQ(ax().messagingTimeout(ax().windowElement(id)), 1.0f);
 }
 
 TEST_F(SimAccessibilityTest, HungApplicationTimesOutInVirtualTime) {
     desktop.application(pid)->hung = true;
-    ax().setMessagingTimeout(ax().application(pid), 0.5f);
+    ax().setMessagingTimeout(ax().windowElement(id), 0.5f);
     const double start = desktop.clock().now();
     AXValue value;
     EXPECT_EQ(ax().copyAttribute(ax().windowElement(id), "AXTitle", value),
