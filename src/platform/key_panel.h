@@ -56,7 +56,8 @@ class KeyPanel {
     virtual Rect frame() const = 0;
     // The content, flipped, replacing the previous one; the view is marked for redrawing.
     virtual void setContent(std::shared_ptr<const DisplayList> content) = 0;
-    // makeKeyAndOrderFront(nil) after NSApp.activate, so the panel takes the keyboard.
+    // makeKeyAndOrderFront(nil). The panel is non-activating: it takes the keyboard without
+    // taking the frontmost application's focus, as a menu does.
     virtual void showKey() = 0;
     virtual void orderOut() = 0;
     virtual bool isVisible() const = 0;

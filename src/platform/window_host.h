@@ -29,6 +29,9 @@ inline constexpr std::uint64_t fullScreenAuxiliary = 1 << 8;
 // full-screen windows (0x151).
 inline constexpr std::uint64_t agentOverlay =
     canJoinAllSpaces | stationary | ignoresCycle | fullScreenAuxiliary;
+// The status panel, like a menu: on whichever Space is active, over full-screen
+// applications, left out of window cycling (0x141).
+inline constexpr std::uint64_t menuBarPanel = canJoinAllSpaces | ignoresCycle | fullScreenAuxiliary;
 }  // namespace WindowCollectionBehavior
 
 // One borderless, transparent, shadowless window of the agent's own (an NSWindow whose

@@ -3,6 +3,7 @@
 #import <AppKit/AppKit.h>
 
 #include "platform/mac/mac_key_panel_view.h"
+#include "platform/window_host.h"
 
 namespace vistrel {
 
@@ -12,11 +13,17 @@ constexpr NSWindowLevel statusLevel = 25;
 }  // namespace
 
 MacKeyPanel::MacKeyPanel() {
-    panel_ = [[VistrelKeyPanel alloc] initWithContentRect:NSZeroRect
-                                                styleMask:NSWindowStyleMaskBorderless
-                                                  backing:NSBackingStoreBuffered
-                                                    defer:YES];
+    // Non-activating: the panel becomes key while the application in front keeps its focus.
+    panel_ = [[VistrelKeyPanel alloc]
+        initWithContentRect:NSZeroRect
+                  styleMask:NSWindowStyleMaskBorderless | NSWindowStyleMaskNonactivatingPanel
+                    backing:NSBackingStoreBuffered
+                      defer:YES];
     panel_.releasedWhenClosed = NO;
+    // The controller closes the panel itself; AppKit hiding it behind the controller's back
+    // would leave the status item highlighted.
+    panel_.hidesOnDeactivate = NO;
+    panel_.collectionBehavior = WindowCollectionBehavior::menuBarPanel;
     panel_.opaque = NO;
     panel_.backgroundColor = NSColor.clearColor;
     panel_.hasShadow = YES;
@@ -50,12 +57,6 @@ void MacKeyPanel::setContent(std::shared_ptr<const DisplayList> content) {
 }
 
 void MacKeyPanel::showKey() {
-    // An accessory app's panel takes the keyboard only once the app is active.
-    if (@available(macOS 14.0, *)) {
-        [NSApplication.sharedApplication activate];
-    } else {
-        [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
-    }
     [panel_ makeKeyAndOrderFront:nil];
 }
 

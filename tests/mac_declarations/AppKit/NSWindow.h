@@ -7,9 +7,14 @@
 #include <Foundation/NSGeometry.h>
 
 VISTREL_OPTIONS(NSUInteger, NSWindowStyleMask){
-    NSWindowStyleMaskBorderless = 0,     NSWindowStyleMaskTitled = 1 << 0,
-    NSWindowStyleMaskClosable = 1 << 1,  NSWindowStyleMaskMiniaturizable = 1 << 2,
-    NSWindowStyleMaskResizable = 1 << 3, NSWindowStyleMaskFullSizeContentView = 1 << 15,
+    NSWindowStyleMaskBorderless = 0,
+    NSWindowStyleMaskTitled = 1 << 0,
+    NSWindowStyleMaskClosable = 1 << 1,
+    NSWindowStyleMaskMiniaturizable = 1 << 2,
+    NSWindowStyleMaskResizable = 1 << 3,
+    NSWindowStyleMaskFullSizeContentView = 1 << 15,
+    // NSPanel only: the panel can become key without activating its application.
+    NSWindowStyleMaskNonactivatingPanel = 1 << 7,
 };
 
 VISTREL_ENUM(NSUInteger, NSBackingStoreType){
@@ -33,6 +38,7 @@ typedef NSUInteger NSWindowCollectionBehavior;
 @property(nullable, strong) __kindof NSView* contentView;
 @property NSWindowLevel level;
 @property NSWindowCollectionBehavior collectionBehavior;
+@property BOOL hidesOnDeactivate;
 @property BOOL ignoresMouseEvents;
 @property CGFloat alphaValue;
 @property(readonly, getter=isVisible) BOOL visible;
