@@ -98,22 +98,27 @@ struct HoveredSession {
     std::uint64_t allocations = 0;
 };
 
-// Main-thread cost of a pointer move over the hovered thumbnail: the tap callback and, on
-// the next turn, the strip and safe-zone test and the hand-off of a hit-test to the hover
-// queue. The hover
-// queue is drained between moves; only the move is timed, by hand, since pausing the
-// benchmark's own timer costs more than the move does.
-void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state, Scene scene) {
-    HoveredSession session(scene);
+// Times `step` by hand for a move to each next point over the hovered thumbnail, then lets
+// what it started run untimed: pausing the benchmark's own timer costs more than a move.
+template <typename Step>
+void timeEachMove(benchmark::State& state, HoveredSession& session, Step step) {
     for (auto _ : state) {
         const Point point = session.nextInThumbnail();
         const auto start = std::chrono::steady_clock::now();
-        session.moveCounted(point);
+        step(point);
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
         state.SetIterationTime(took.count());
         session.desktop.executor().runUntilIdle();
     }
     benchmark::DoNotOptimize(session.engine->target());
+}
+
+// Main-thread cost of a pointer move over the hovered thumbnail: the tap callback and, on
+// the next turn, the strip and safe-zone test and the hand-off of a hit-test to the hover
+// queue, which is drained between moves.
+void BM_PointerMoveOverHoveredThumbnail(benchmark::State& state, Scene scene) {
+    HoveredSession session(scene);
+    timeEachMove(state, session, [&](Point point) { session.moveCounted(point); });
     session.report(state);
 }
 BENCHMARK_CAPTURE(BM_PointerMoveOverHoveredThumbnail, everyday, Scene::everyday)->UseManualTime();
@@ -143,15 +148,7 @@ BENCHMARK_CAPTURE(BM_PointerMoveAlongTheStrip, crowd, Scene::crowd);
 // move. The turn that handles it runs afterwards, untimed.
 void BM_TapCallbackForAPointerMove(benchmark::State& state, Scene scene) {
     HoveredSession session(scene);
-    for (auto _ : state) {
-        const Point point = session.nextInThumbnail();
-        const auto start = std::chrono::steady_clock::now();
-        session.deliver(point);
-        const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
-        state.SetIterationTime(took.count());
-        session.desktop.executor().runUntilIdle();
-    }
-    benchmark::DoNotOptimize(session.engine->target());
+    timeEachMove(state, session, [&](Point point) { session.deliver(point); });
 }
 BENCHMARK_CAPTURE(BM_TapCallbackForAPointerMove, everyday, Scene::everyday)->UseManualTime();
 BENCHMARK_CAPTURE(BM_TapCallbackForAPointerMove, crowd, Scene::crowd)->UseManualTime();
