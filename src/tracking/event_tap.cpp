@@ -1,5 +1,6 @@
 #include "tracking/event_tap.h"
 
+#include <string>
 #include <string_view>
 
 #include "diagnostics/log.h"
@@ -14,6 +15,8 @@ constexpr std::array tapLocations = {EventTapLocation::hid, EventTapLocation::se
 constexpr std::string_view runningAtHID = "event tap: running at the HID location";
 constexpr std::string_view runningAtSession =
     "event tap: HID location refused, running at the session location";
+constexpr std::string_view disabledOften = "event tap: disabled by the system ";
+constexpr std::string_view inAMinute = " times in a minute";
 }  // namespace
 
 EventTap::~EventTap() {
@@ -70,6 +73,10 @@ bool EventTap::handle(const InputEvent& event) {
     if (event.type == EventType::tapDisabledByTimeout ||
         event.type == EventType::tapDisabledByUserInput) {
         if (port_ != nullptr) port_->enable(true);
+        if (auto count = disables_.record(platform().clock.now())) {
+            Log::error(std::string(disabledOften) + std::to_string(*count) +
+                       std::string(inAMinute));
+        }
         return true;
     }
     // Key-ups settle the swallowed set even when nobody listens any more.

@@ -8,6 +8,7 @@
 
 #include "platform/event_tap_port.h"
 #include "tracking/event_tap_delegate.h"
+#include "tracking/tap_disable_counter.h"
 
 namespace vistrel {
 
@@ -68,6 +69,7 @@ class EventTap {
     std::set<std::int64_t> swallowedKeys_;
     bool swallowMouseUp_ = false;
     std::optional<EventTapLocation> location_;
+    TapDisableCounter disables_;
 };
 
 inline constexpr std::uint64_t EventTap::eventMask = eventMaskOf(EventTap::tappedTypes);

@@ -214,6 +214,16 @@ TEST_F(EventTapTest, DisabledByTimeoutNoticeReEnablesTheTapAndPasses) {
     EXPECT_EQ(port().enables(), 2);
 }
 
+TEST_F(EventTapTest, ATapDisabledMoreThanFiveTimesInAMinuteIsLoggedOnceWithTheCount) {
+    ASSERT_TRUE(tap.start());
+    for (int i = 0; i < 8; ++i) {
+        deliver(SimInput::tapDisabled(EventType::tapDisabledByTimeout));
+        desktop.executor().advance(5);
+    }
+    EXPECT_EQ(desktop.systemLog().count("event tap: disabled by the system 6 times in a minute"),
+              1u);
+}
+
 TEST_F(EventTapTest, DisabledByUserInputNoticeReEnablesTheTapAndPasses) {
     tap.start();
     port().disableBySystem();
