@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "settings/settings.h"
 #include "tracking/ax.h"
+#include "tracking/health.h"
 #include "tracking/hotkey.h"
 #include "windows/window_actions.h"
 
@@ -52,6 +53,7 @@ Engine::Engine(Private, std::unique_ptr<EngineLayouts> layouts)
       ownPid_(platform().workspace.ownPid()),
       axQueue_(platform().executor.makeQueue(std::string(hoverQueueLabel),
                                              QualityOfService::userInteractive)),
+      grant_(axQueue_),
       hitTest_(std::make_shared<HitTest>()),
       targets_(std::make_shared<ThumbnailTargets>()),
       moves_([this](Point point, bool dragged) {
@@ -84,6 +86,7 @@ void Engine::start() {
 
 void Engine::tick(bool open) {
     Settings::shared().publishTrustIfChanged();
+    grant_.check();
     if (!open) {
         if (active_) closed();
         return;
@@ -101,6 +104,7 @@ void Engine::opened() {
     active_ = true;
     ticks_ = 0;
     reading_ = {};
+    readThisOpening_ = false;
     Log::info(appeared);
     layouts_->missionControlOpened();
 }
@@ -108,6 +112,8 @@ void Engine::opened() {
 void Engine::closed() {
     active_ = false;
     ++generation_;
+    Health::shared().openingEnded(readThisOpening_ ? std::optional(reading_) : std::nullopt,
+                                  tap_.disablesSinceStart());
     tap_.stop();
     clearTarget();
     lastPoint_.reset();
@@ -158,6 +164,7 @@ void Engine::refreshThumbnails() {
 void Engine::thumbnailsRead(const std::vector<Rect>& frames, const MissionControlReading& reading) {
     thumbs_ = frames;
     reading_ = reading;
+    readThisOpening_ = true;
     if (!hostLogged_ && reading.host) {
         Log::info(MissionControlHosts::startLine(*reading.host));
         hostLogged_ = true;
@@ -260,6 +267,8 @@ void Engine::tapMouseDragged(Point point) {
 void Engine::pointerMoved(Point point) {
     if (lastPoint_ == point) return;
     lastPoint_ = point;
+    // A plain move means the button is up: a press still dragging lost its release.
+    if (layouts_->pressDragging()) layouts_->mouseUp(point);
     if (layouts_->pointerMoved(point)) {
         if (target_) clearTarget();
         return;
@@ -314,7 +323,9 @@ bool Engine::tapMouseDown(Point point, std::uint64_t flags) {
     if (target_)
         pick = EngineLayouts::Pick{target_->window, target_->pid, targetThumb_.value_or(Rect{})};
     if (layouts_->isComposing()) {
-        if (pick) layouts_->pick(*pick);
+        // Only a click that puts a known window into the layout is kept from Mission Control.
+        if (!pick) return false;
+        layouts_->pick(*pick);
         return true;
     }
     layouts_->recordPress(pick, point);

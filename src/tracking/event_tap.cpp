@@ -2,9 +2,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "diagnostics/log.h"
 #include "platform/platform.h"
+#include "tracking/health.h"
 
 namespace vistrel {
 
@@ -17,6 +19,8 @@ constexpr std::string_view runningAtSession =
     "event tap: HID location refused, running at the session location";
 constexpr std::string_view disabledOften = "event tap: disabled by the system ";
 constexpr std::string_view inAMinute = " times in a minute";
+constexpr std::string_view releaseLapsed =
+    "event tap: a kept click's release came more than a second late; it goes on";
 }  // namespace
 
 EventTap::~EventTap() {
@@ -36,6 +40,7 @@ bool EventTap::start() {
     }
     port.enable(true);
     port_ = &port;
+    disablesSinceStart_ = 0;
     noteLocation(*location);
     return true;
 }
@@ -62,7 +67,7 @@ void EventTap::stop() {
     if (port_ != nullptr) port_->invalidate();
     port_ = nullptr;
     swallowedKeys_.clear();
-    swallowMouseUp_ = false;
+    swallowMouseUpSince_.reset();
 }
 
 bool EventTap::isRunning() const {
@@ -73,9 +78,11 @@ bool EventTap::handle(const InputEvent& event) {
     if (event.type == EventType::tapDisabledByTimeout ||
         event.type == EventType::tapDisabledByUserInput) {
         if (port_ != nullptr) port_->enable(true);
+        ++disablesSinceStart_;
         if (auto count = disables_.record(platform().clock.now())) {
             Log::error(std::string(disabledOften) + std::to_string(*count) +
                        std::string(inAMinute));
+            Health::shared().setTapUnsteady(true);
         }
         return true;
     }
@@ -107,14 +114,16 @@ bool EventTap::handle(const InputEvent& event) {
 
 bool EventTap::handleMouseDown(EventTapDelegate* target, const InputEvent& event) {
     const bool consumed = target->tapMouseDown(event.location, event.flags);
-    if (consumed) swallowMouseUp_ = true;
+    // A new press settles any earlier one whose release never came.
+    swallowMouseUpSince_.reset();
+    if (consumed) swallowMouseUpSince_ = platform().clock.now();
     return !consumed;
 }
 
 bool EventTap::handleMouseUp(EventTapDelegate* target, const InputEvent& event) {
-    if (swallowMouseUp_) {
-        swallowMouseUp_ = false;
-        return false;
+    if (const auto since = std::exchange(swallowMouseUpSince_, std::nullopt)) {
+        if (platform().clock.now() - *since <= releaseLapse) return false;
+        Log::info(releaseLapsed);
     }
     target->tapMouseUp(event.location);
     return true;

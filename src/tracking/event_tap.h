@@ -36,6 +36,9 @@ class EventTap {
         EventType::leftMouseDragged, EventType::keyDown,     EventType::keyUp,
         EventType::flagsChanged};
     static const std::uint64_t eventMask;
+    // A kept press whose release has not come this long after it lost its release (the tap
+    // was off when it came): the next release goes on, so no drag ever sticks.
+    static constexpr double releaseLapse = 1.0;
 
     EventTap() = default;
     ~EventTap();
@@ -52,6 +55,9 @@ class EventTap {
     // The tap has a port and the system still considers it valid.
     bool isRunning() const;
 
+    // How often the system switched the tap off since it was last started.
+    int disablesSinceStart() const { return disablesSinceStart_; }
+
     // The tap callback: true passes the event on, false swallows it.
     bool handle(const InputEvent& event);
 
@@ -67,9 +73,11 @@ class EventTap {
     // The port the tap was made on; set while the tap runs.
     EventTapPort* port_ = nullptr;
     std::set<std::int64_t> swallowedKeys_;
-    bool swallowMouseUp_ = false;
+    // When the press whose release is kept from the system was kept; none when no release is.
+    std::optional<double> swallowMouseUpSince_;
     std::optional<EventTapLocation> location_;
     TapDisableCounter disables_;
+    int disablesSinceStart_ = 0;
 };
 
 inline constexpr std::uint64_t EventTap::eventMask = eventMaskOf(EventTap::tappedTypes);

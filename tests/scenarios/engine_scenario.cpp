@@ -48,9 +48,16 @@ bool EngineScenario::release(Point point) {
     return passed;
 }
 
+// A key is kept from the system only for an action, and every action leaves a line in the
+// log: a first press kept without one would be a key swallowed for nothing.
 bool EngineScenario::key(std::int64_t code, std::uint64_t flags, bool autorepeat) {
+    const std::size_t before = desktop.systemLog().lines().size();
     const bool passed = desktop.eventTap().deliver(SimInput::keyDown(code, flags, autorepeat));
     settle();
+    if (!passed && !autorepeat) {
+        EXPECT_GT(desktop.systemLog().lines().size(), before)
+            << "key " << code << " was kept from the system without an action";
+    }
     return passed;
 }
 

@@ -196,6 +196,35 @@ TEST_F(EventTapTest, MouseDownNotConsumedPassesWithItsMouseUp) {
     EXPECT_EQ(delegate->ups.size(), 1u);
 }
 
+TEST_F(EventTapTest, AReleaseMoreThanASecondAfterAKeptClickGoesOnSoNoDragSticks) {
+    tap.start();
+    delegate->consumeMouseDown = true;
+    EXPECT_FALSE(deliver(SimInput::mouseDown(somewhere)));
+    desktop.executor().advance(EventTap::releaseLapse + 0.5);
+    EXPECT_TRUE(deliver(SimInput::mouseUp(somewhere)));
+    EXPECT_EQ(delegate->ups.size(), 1u);
+    EXPECT_EQ(logged("event tap: a kept click's release came more than a second late; it goes on"),
+              1u);
+}
+
+TEST_F(EventTapTest, AReleaseWithinASecondOfAKeptClickIsKept) {
+    tap.start();
+    delegate->consumeMouseDown = true;
+    EXPECT_FALSE(deliver(SimInput::mouseDown(somewhere)));
+    desktop.executor().advance(EventTap::releaseLapse - 0.1);
+    EXPECT_FALSE(deliver(SimInput::mouseUp(somewhere)));
+}
+
+TEST_F(EventTapTest, APressThatGoesOnSettlesAKeptClickWhoseReleaseNeverCame) {
+    tap.start();
+    delegate->consumeMouseDown = true;
+    EXPECT_FALSE(deliver(SimInput::mouseDown(somewhere)));
+    // Its release was lost; the next press is Mission Control's, and so is its release.
+    delegate->consumeMouseDown = false;
+    EXPECT_TRUE(deliver(SimInput::mouseDown(somewhere)));
+    EXPECT_TRUE(deliver(SimInput::mouseUp(somewhere)));
+}
+
 TEST_F(EventTapTest, MovesDragsAndFlagChangesReachTheDelegateAndPass) {
     tap.start();
     EXPECT_TRUE(deliver(SimInput::mouseMoved({1, 2})));

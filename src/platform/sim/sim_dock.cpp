@@ -166,7 +166,7 @@ void SimDock::rebuild(const std::vector<Shown>& shown) {
     laidOutFrom_ = shown;
     laidOutScreens_ = desktop_.accessibilityScreenFrames();
     std::vector<AXElement> displays;
-    for (std::size_t screen = 0; screen < laidOutScreens_.size(); ++screen) {
+    for (std::size_t screen = 0; screen < laidOutScreens_.size() && !treeEmpty; ++screen) {
         const SimNodeId display = makeDisplay(screen, laidOutScreens_[screen], shown);
         displayNodes_.push_back(display);
         displays.push_back(accessibility.nodeElement(display));
@@ -322,7 +322,8 @@ std::optional<AXElement> SimDock::hitTest(Point point) {
             if (window == thumbnail->window) return desktop_.accessibility().nodeElement(node);
         }
     }
-    for (std::size_t i = 0; i < laidOutScreens_.size(); ++i) {
+    // An empty tree has no display group to answer with.
+    for (std::size_t i = 0; i < laidOutScreens_.size() && i < displayNodes_.size(); ++i) {
         if (laidOutScreens_[i].contains(point)) {
             return desktop_.accessibility().nodeElement(displayNodes_[i]);
         }

@@ -94,6 +94,9 @@ class SimDock {
     // whether WindowManager's thumbnails carry their window's number ("wid").
     bool hitTestAnswersThumbnail = false;
     bool thumbnailsNameWindows = true;
+    // A macOS that moved Mission Control again: the Dock still shows its "mc" group while it
+    // is open, but no display or thumbnail under it nor anywhere the agent looks.
+    bool treeEmpty = false;
 
     // Opens Mission Control on every screen, launching the Dock first if need be.
     void open();

@@ -1,0 +1,128 @@
+// When Vistrel cannot tell which window the pointer is over, every key and click goes on to
+// the system untouched, so Command-W, Command-Q and the others keep their usual meaning; only
+// a key or click that runs an action on a window Vistrel is sure of is kept. The uncertain
+// cases are those public records of real Macs allow: two windows alike in title and shape
+// behind thumbnails that name no window, and a macOS whose Mission Control tree is empty.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "layouts_scenario.h"
+#include "platform/sim/sim_event_tap_port.h"
+#include "platform/sim/sim_presentation.h"
+#include "tracking/hotkey.h"
+
+namespace vistrel::testing {
+namespace {
+
+using Item = ShelfLayout::Item;
+
+class FailOpenTest : public LayoutsScenario, public ::testing::WithParamInterface<SimPresentation> {
+  protected:
+    FailOpenTest() { present(desktop, GetParam()); }
+
+    // Two TextEdit windows alike in title and shape; thumbnails that name no window cannot
+    // tell them apart.
+    void addAlikeWindows() {
+        SimApplication app;
+        app.bundleIdentifier = "com.apple.TextEdit";
+        app.name = "TextEdit";
+        const Pid pid = desktop.addApplication(app);
+        first_ = desktop.addWindow(pid, alike({100, 100, 600, 400}));
+        second_ = desktop.addWindow(pid, alike({700, 300, 600, 400}));
+    }
+    static SimWindow alike(Rect frame) {
+        SimWindow window;
+        window.title = "Untitled";
+        window.frame = frame;
+        return window;
+    }
+    Rect thumbOfWindow(SimWindowId id) {
+        for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
+            if (thumbnail.window == id) return thumbnail.frame;
+        }
+        ADD_FAILURE() << "no thumbnail for window " << id;
+        return {};
+    }
+    // Every shortcut, pressed with the pointer at rest over the point: each must go on to
+    // the system and leave every window as it was.
+    void everyShortcutPassesOver(Point point) {
+        const std::size_t windows = desktop.windows().size();
+        for (Hotkey hotkey : allHotkeys) {
+            move({1, 1});
+            move(point);
+            tick();
+            settle();
+            ASSERT_FALSE(engine->target()) << "the pointer found a window";
+            EXPECT_TRUE(key(keyCode(hotkey), modifiers(hotkey))) << name(hotkey) << " was kept";
+            keyUp(keyCode(hotkey));
+        }
+        EXPECT_EQ(desktop.windows().size(), windows);
+        for (const SimWindow& window : desktop.windows()) {
+            EXPECT_FALSE(window.closed || window.minimized) << window.title;
+        }
+    }
+    SimWindowId first_ = 0;
+    SimWindowId second_ = 0;
+};
+
+// Where the hit-test or the thumbnail names the window, alike windows are told apart; these
+// are the presentations where they cannot be.
+class UncertainWindowTest : public FailOpenTest {};
+
+TEST_P(UncertainWindowTest, EveryShortcutOverAWindowVistrelIsNotSureOfGoesToTheSystem) {
+    addAlikeWindows();
+    openMissionControl();
+    everyShortcutPassesOver(inside(thumbOfWindow(first_)));
+}
+
+TEST_P(FailOpenTest, EveryShortcutGoesToTheSystemWhenMissionControlsTreeIsEmpty) {
+    desktop.dock().treeEmpty = true;
+    openMissionControl();
+    ASSERT_TRUE(engine->active());
+    ASSERT_TRUE(engine->thumbs().empty());
+    // Mission Control still shows the window; where, nothing Vistrel reads says.
+    everyShortcutPassesOver(inside(frameOf("Notes")));
+}
+
+TEST_P(UncertainWindowTest, AClickWhileComposingOnAWindowVistrelIsNotSureOfGoesOnToMissionControl) {
+    addAlikeWindows();
+    openMissionControl();
+    unfoldShelf();
+    clickCell(Item::layoutTemplate(0));
+    ASSERT_TRUE(layouts().isComposing());
+    const Point at = inside(thumbOfWindow(second_));
+    move(at);
+    EXPECT_TRUE(press(at)) << "the click reaches Mission Control";
+    EXPECT_TRUE(release(at));
+}
+
+TEST_P(FailOpenTest, APressDraggingWhoseReleaseWasLostEndsAtTheNextPlainMove) {
+    openMissionControl();
+    const Point start = inside(thumbOf("Notes"));
+    move(start);
+    tick();
+    settle();
+    ASSERT_TRUE(press(start));
+    desktop.eventTap().deliver(SimInput::mouseDragged({start.x + 60, start.y + 40}));
+    settle();
+    ASSERT_TRUE(layouts().pressDragging());
+    // The release came while the tap was off; the next thing seen is a plain move.
+    move({start.x + 80, start.y + 40});
+    EXPECT_FALSE(layouts().pressDragging());
+}
+
+INSTANTIATE_TEST_SUITE_P(MissionControlPresentations, FailOpenTest,
+                         ::testing::ValuesIn(everyPresentation),
+                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
+                             return std::string(name(info.param));
+                         });
+INSTANTIATE_TEST_SUITE_P(ThumbnailsNamingNoWindow, UncertainWindowTest,
+                         ::testing::Values(SimPresentation::hitTestThumbnail,
+                                           SimPresentation::unnumberedThumbnails),
+                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
+                             return std::string(name(info.param));
+                         });
+
+}  // namespace
+}  // namespace vistrel::testing
