@@ -24,6 +24,8 @@ inline constexpr std::string_view layoutsDebugGeometry = "layouts.debugGeometry"
 inline constexpr std::string_view layoutsDebugShelf = "layouts.debug.shelf";
 
 inline constexpr std::string_view agentAccessibilityTrusted = "agent.accessibilityTrusted";
+// True while the grant is reported but every accessibility call fails with it.
+inline constexpr std::string_view agentAccessibilityStale = "agent.accessibilityStale";
 inline constexpr std::string_view agentLaunchAtLogin = "agent.launchAtLogin";
 inline constexpr std::string_view agentLaunchAtLoginNeedsApproval =
     "agent.launchAtLoginNeedsApproval";

@@ -13,6 +13,7 @@
 #include "tracking/engine_layouts.h"
 #include "tracking/event_tap.h"
 #include "tracking/event_tap_delegate.h"
+#include "tracking/grant_watch.h"
 #include "tracking/mission_control_detector.h"
 #include "tracking/mission_control_reading.h"
 #include "tracking/overlay_layout.h"
@@ -115,12 +116,15 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     bool tapFailureLogged_ = false;
     Pid ownPid_ = 0;
     std::shared_ptr<SerialQueue> axQueue_;
+    GrantWatch grant_;
     std::shared_ptr<HitTest> hitTest_;
     // The thumbnails' windows; read and written on the hover queue only.
     std::shared_ptr<ThumbnailTargets> targets_;
     MissionControlReading reading_;
     PointerCoalescer moves_;
     bool hostLogged_ = false;
+    // A read of the thumbnails came back during this opening, so the self-check can judge it.
+    bool readThisOpening_ = false;
     bool lookupBusy_ = false;
     std::optional<Point> pendingLookup_;
     bool thumbsBusy_ = false;

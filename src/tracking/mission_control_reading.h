@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "tracking/mission_control_host.h"
 
@@ -16,6 +17,12 @@ struct MissionControlReading {
     int thumbnails = 0;
     int mapped = 0;
     int refusals = 0;
+    // The windows Mission Control may show, as enumerated to tie thumbnails without a window
+    // number, or because none was read; 0 when they were not enumerated.
+    int windows = 0;
+
+    // "host Dock, thumbnails 12, windows 0, mapped 11, refusals 1", for the log and reports.
+    std::string summary() const;
 
     bool operator==(const MissionControlReading&) const = default;
 };

@@ -27,7 +27,17 @@ MissionControlReading ThumbnailTargets::update(std::uint64_t generation, Thumbna
         if (tie.window) ++reading.mapped;
         if (tie.refused) ++reading.refusals;
     }
+    // With no thumbnail read, the windows tell whether Mission Control had any to show: the
+    // self-check must not take an empty desktop for a tree it cannot read.
+    if (read.thumbnails.empty()) enumerateOnce(ownPid);
+    if (enumerated_) reading.windows = static_cast<int>(catalog_.facts().size());
     return reading;
+}
+
+void ThumbnailTargets::enumerateOnce(Pid ownPid) {
+    if (enumerated_) return;
+    catalog_.enumerate(ownPid);
+    enumerated_ = true;
 }
 
 // The tie made earlier in this opening for the same thumbnail (same title, identifier and
@@ -60,10 +70,7 @@ ThumbnailTargets::Tie ThumbnailTargets::make(const MissionControlThumbnail& thum
             tie.windowTitle = AX::string(tie.window->window, titleAttribute).value_or("");
         return tie;
     }
-    if (!enumerated_) {
-        catalog_.enumerate(ownPid);
-        enumerated_ = true;
-    }
+    enumerateOnce(ownPid);
     ThumbnailMatch::Thumbnail facts{thumbnail.title, std::nullopt, thumbnail.frame,
                                     thumbnail.display};
     if (thumbnail.identifier)

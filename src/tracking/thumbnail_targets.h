@@ -53,6 +53,8 @@ class ThumbnailTargets {
 
     const Tie& tieOf(const MissionControlThumbnail& thumbnail, Pid ownPid);
     Tie make(const MissionControlThumbnail& thumbnail, Pid ownPid);
+    // The opening's windows are enumerated once, when first needed.
+    void enumerateOnce(Pid ownPid);
 
     std::uint64_t generation_ = 0;
     bool enumerated_ = false;

@@ -153,6 +153,7 @@ std::optional<Pid> SimAccessibility::ownerOf(const AXElement& element) const {
 
 AXError SimAccessibility::enter(const AXElement& element) {
     if (!desktop_.trusted) return AXError::apiDisabled;
+    if (desktop_.staleGrant) return *desktop_.staleGrant;
     if (handleOf(element) == nullptr) return AXError::illegalArgument;
     const auto owner = ownerOf(element);
     const SimApplication* app = owner ? desktop_.application(*owner) : nullptr;
@@ -403,6 +404,7 @@ AXError SimAccessibility::elementAtPosition(const AXElement& root, Point point, 
     ++hitTests_;
     desktop_.clock().sleep(hitTestLatency);
     if (!desktop_.trusted) return AXError::apiDisabled;
+    if (desktop_.staleGrant) return *desktop_.staleGrant;
     const SimHandle* handle = handleOf(root);
     if (handle == nullptr || handle->kind != Kind::systemWide) return AXError::illegalArgument;
     if (hitTestOverride) {

@@ -146,6 +146,9 @@ class SimDesktop {
     // The Accessibility grant; revoking it makes every accessibility call fail.
     bool trusted = true;
     int trustPrompts = 0;
+    // A stale grant: the system still reports the grant, but every accessibility call
+    // answers this error, as after an update or a re-signed build (AXSwift issue 39).
+    std::optional<AXError> staleGrant;
 
   private:
     SimClock clock_;

@@ -1,0 +1,53 @@
+#include "tracking/health.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "diagnostics/log.h"
+#include "platform/platform.h"
+#include "settings/preference_key.h"
+#include "settings/shared.h"
+
+namespace vistrel {
+
+Health& Health::shared() {
+    // Made anew when a different platform is installed (tests install one per case).
+    static std::unique_ptr<Health> instance;
+    static std::uint64_t generation = 0;
+    if (!instance || generation != platformGeneration()) {
+        instance = std::make_unique<Health>();
+        generation = platformGeneration();
+    }
+    return *instance;
+}
+
+Health::Problem Health::problem() const {
+    if (!platform().accessibility.isProcessTrusted()) return Problem::notTrusted;
+    if (staleGrant_) return Problem::staleGrant;
+    if (selfCheck_.cannotRead()) return Problem::cannotReadMissionControl;
+    if (tapUnsteady_) return Problem::tapUnsteady;
+    return Problem::none;
+}
+
+void Health::setStaleGrant(bool stale) {
+    if (stale == staleGrant_) return;
+    staleGrant_ = stale;
+    stale ? Log::error(staleGrantLine) : Log::info(grantWorksLine);
+    // The Settings app shows the grant as the agent found it.
+    if (auto store = Shared::store())
+        store->set(std::string(PreferenceKey::agentAccessibilityStale), stale);
+}
+
+void Health::openingEnded(const std::optional<MissionControlReading>& reading, int tapDisables) {
+    // An opening the tap went through without being switched off shows it steady again.
+    if (tapDisables == 0) tapUnsteady_ = false;
+    if (!reading || !selfCheck_.record(*reading)) return;
+    if (selfCheck_.cannotRead()) {
+        Log::error(std::string(cannotReadLine) + reading->summary());
+    } else {
+        Log::info(readsAgainLine);
+    }
+}
+
+}  // namespace vistrel
