@@ -25,6 +25,15 @@ class ModalAlert {
     virtual ~ModalAlert() = default;
     // The index of the button the user chose; nothing when the alert ended without one.
     virtual std::optional<std::size_t> run(const AlertContent& alert) = 0;
+
+    // The button chosen and whether the check box was ticked when the alert ended.
+    struct Answer {
+        std::optional<std::size_t> button;
+        bool ticked = false;
+    };
+    // The same alert with a check box under its text, unticked at first: NSAlert's
+    // suppression button (showsSuppressionButton) under the title `checkbox`.
+    virtual Answer runWithCheckbox(const AlertContent& alert, const std::string& checkbox) = 0;
 };
 
 namespace AlertResponse {

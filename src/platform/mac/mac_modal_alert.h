@@ -12,6 +12,7 @@ namespace vistrel {
 class MacModalAlert : public ModalAlert {
   public:
     std::optional<std::size_t> run(const AlertContent& alert) override;
+    Answer runWithCheckbox(const AlertContent& alert, const std::string& checkbox) override;
 };
 
 // An accessory agent has no Dock icon to click: it comes to the front itself before it

@@ -33,4 +33,15 @@ std::optional<std::size_t> MacModalAlert::run(const AlertContent& alert) {
     return runAlert(makeAlert(alert));
 }
 
+ModalAlert::Answer MacModalAlert::runWithCheckbox(const AlertContent& content,
+                                                  const std::string& checkbox) {
+    NSAlert* alert = makeAlert(content);
+    alert.showsSuppressionButton = YES;
+    alert.suppressionButton.title = nsString(checkbox);
+    Answer answer;
+    answer.button = runAlert(alert);
+    answer.ticked = alert.suppressionButton.state == NSControlStateValueOn;
+    return answer;
+}
+
 }  // namespace vistrel

@@ -25,9 +25,24 @@ class SimModalAlert : public ModalAlert {
         return button;
     }
 
+    Answer runWithCheckbox(const AlertContent& alert, const std::string& checkbox) override {
+        checkboxes.push_back(checkbox);
+        Answer answer;
+        answer.button = run(alert);
+        if (!ticks.empty()) {
+            answer.ticked = ticks.front();
+            ticks.pop_front();
+        }
+        return answer;
+    }
+
     // A scripted answer of nothing ends the alert without a button, as an aborted one does.
     std::deque<std::optional<std::size_t>> answers;
     std::vector<AlertContent> shown;
+    // The check boxes' titles of the alerts that had one, and whether each is ticked when
+    // it ends (unticked once the script has run out).
+    std::vector<std::string> checkboxes;
+    std::deque<bool> ticks;
     std::function<void(const AlertContent&, std::optional<std::size_t> button)> observer;
 };
 

@@ -20,6 +20,9 @@ static const NSModalResponse NSAlertThirdButtonReturn = 1002;
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 @property(readonly, copy) NSArray<NSButton*>* buttons;
 @property(nullable, strong) NSView* accessoryView;
+// A check box under the text; its title and state are the suppression button's.
+@property BOOL showsSuppressionButton VISTREL_MACOS(10.5);
+@property(nullable, readonly, strong) NSButton* suppressionButton VISTREL_MACOS(10.5);
 // Lays the alert out now, so its window can be adjusted before it runs.
 - (void)layout;
 @property(readonly, strong) NSWindow* window;

@@ -12,6 +12,7 @@
 @property(nullable, strong) NSImage* image;
 - (void)highlight:(BOOL)flag;
 @property(copy) NSString* title;
+@property NSControlStateValue state;
 @property(getter=isBordered) BOOL bordered;
 @property(nullable, copy) NSColor* contentTintColor VISTREL_MACOS(10.14);
 // "\r" makes the button the window's default one.
