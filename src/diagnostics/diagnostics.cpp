@@ -7,6 +7,7 @@
 #include "layouts/layout_store.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
+#include "tracking/health.h"
 #include "views/theme.h"
 
 namespace vistrel {
@@ -114,6 +115,16 @@ std::string displayLines(Platform& p) {
     return text;
 }
 
+// What the agent found out about working on this Mac while it ran.
+std::string healthLines() {
+    const Health& health = Health::shared();
+    const auto& last = health.selfCheck().last();
+    return "Accessibility grant stale: " + std::string(yesNo(health.staleGrant())) +
+           "\nMission Control self-check: " + (last ? last->summary() : "no opening yet") +
+           ", failed openings in a row " + std::to_string(health.selfCheck().failuresInARow()) +
+           "\nEvent tap switched off often: " + std::string(yesNo(health.tapUnsteady()));
+}
+
 }  // namespace
 
 std::string Diagnostics::text() {
@@ -131,6 +142,7 @@ std::string Diagnostics::text() {
         "Displays have separate Spaces: " +
             std::string(yesNo(p.screens.screensHaveSeparateSpaces())),
         displayLines(p),
+        healthLines(),
     };
     std::string text;
     for (const std::string& line : lines)

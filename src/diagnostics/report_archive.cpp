@@ -35,7 +35,8 @@ void copyInto(FileSystem& files, const std::vector<fs::path>& items, const fs::p
     }
 }
 
-bool fillFolder(const fs::path& folder, std::string_view note, std::string_view email) {
+bool fillFolder(const fs::path& folder, std::string_view note, std::string_view email,
+                const std::vector<fs::path>& attachments) {
     FileSystem& files = platform().files;
     if (const FileError error = files.createFolder(folder.string()))
         return failed("could not make the report folder: " + *error);
@@ -47,6 +48,7 @@ bool fillFolder(const fs::path& folder, std::string_view note, std::string_view 
         return failed("could not write note.txt: " + *error);
     copyInto(files, Log::file().files(), folder);
     copyInto(files, ReportArchive::recentCrashReports(), folder);
+    copyInto(files, attachments, folder);
     return true;
 }
 
@@ -85,7 +87,8 @@ std::vector<fs::path> ReportArchive::recentCrashReports() {
     return newest;
 }
 
-std::optional<fs::path> ReportArchive::build(std::string_view note, std::string_view email) {
+std::optional<fs::path> ReportArchive::build(std::string_view note, std::string_view email,
+                                             const std::vector<fs::path>& attachments) {
     Platform& p = platform();
     const std::optional<fs::path> temporary = p.files.makeTemporaryFolder(temporaryPrefix);
     if (!temporary) {
@@ -93,7 +96,7 @@ std::optional<fs::path> ReportArchive::build(std::string_view note, std::string_
         return std::nullopt;
     }
     const fs::path folder = *temporary / folderName(p.clock.now());
-    if (!fillFolder(folder, note, email)) return std::nullopt;
+    if (!fillFolder(folder, note, email, attachments)) return std::nullopt;
     const fs::path archive = folder.string() + std::string(archiveExtension);
     if (const std::optional<std::string> error =
             p.archiver.zip(folder.string(), archive.string())) {

@@ -30,10 +30,12 @@ struct ReportArchive {
     // The agent's crash reports of the last 30 days in "~/Library/Logs/DiagnosticReports",
     // newest first, at most five.
     static std::vector<std::filesystem::path> recentCrashReports();
-    // Writes the folder in a fresh temporary folder and zips it next to itself; the
-    // archive's path, or nothing (with an error line in the log) when a step failed.
-    static std::optional<std::filesystem::path> build(std::string_view note,
-                                                      std::string_view email);
+    // Writes the folder in a fresh temporary folder, with the files the user chose to add
+    // (a capture of Mission Control), and zips it next to itself; the archive's path, or
+    // nothing (with an error line in the log) when a step failed.
+    static std::optional<std::filesystem::path> build(
+        std::string_view note, std::string_view email,
+        const std::vector<std::filesystem::path>& attachments = {});
 };
 
 }  // namespace vistrel

@@ -65,18 +65,19 @@ void finishUpload(const UploadResponse& response, const std::string& email, cons
 
 }  // namespace
 
-void ReportProblem::show() {
-    const ReportDialogContent dialog{{str(Text::title),
-                                      str(Text::message),
-                                      {str(Text::send), str(Text::saveToFile), str(Text::cancel)}},
-                                     str(Text::emailPlaceholder)};
+void ReportProblem::show(const std::vector<fs::path>& attachments) {
+    const std::string message =
+        str(Text::message) + (attachments.empty() ? "" : str(Text::withCapture));
+    const ReportDialogContent dialog{
+        {str(Text::title), message, {str(Text::send), str(Text::saveToFile), str(Text::cancel)}},
+        str(Text::emailPlaceholder)};
     const ReportDialogAnswer answer = platform().reportDialog.run(dialog);
     if (answer.button != sendButton && answer.button != saveButton) return;
     const bool sending = answer.button == sendButton;
     Log::info(sending ? "report a problem: sending" : "report a problem: saving");
     Log::file().flush();
     const std::string email = trimmed(answer.email);
-    const std::optional<fs::path> zip = buildZip(answer.note, email);
+    const std::optional<fs::path> zip = buildZip(answer.note, email, attachments);
     if (!zip) return tell(Text::buildFailed);
     if (sending) {
         upload(answer.note, email, *zip);
@@ -85,8 +86,9 @@ void ReportProblem::show() {
     }
 }
 
-std::optional<fs::path> ReportProblem::buildZip(std::string_view note, std::string_view email) {
-    return ReportArchive::build(note, email);
+std::optional<fs::path> ReportProblem::buildZip(std::string_view note, std::string_view email,
+                                                const std::vector<fs::path>& attachments) {
+    return ReportArchive::build(note, email, attachments);
 }
 
 std::vector<fs::path> ReportProblem::recentCrashReports() {

@@ -20,6 +20,9 @@ struct ReportProblem {
             "display setup and permission state, and recent crash reports of Vistrel. It does not "
             "include window contents or your files, though the log can name apps and windows you "
             "acted on.";
+        // Added to the message when a capture of Mission Control goes with the report.
+        static constexpr std::string_view withCapture =
+            " It also includes the capture of how this Mac shows Mission Control.";
         static constexpr std::string_view emailPlaceholder = "Your email, if you'd like a reply";
         static constexpr std::string_view send = "Send Report";
         static constexpr std::string_view saveToFile = "Save to File…";
@@ -34,11 +37,14 @@ struct ReportProblem {
     // How long the upload may take before it counts as failed, in seconds.
     static constexpr double uploadTimeout = 60;
 
-    // Shows the dialog and does what the user chose.
-    static void show();
-    // The archive of a report with this note and email; nothing when it could not be made.
-    static std::optional<std::filesystem::path> buildZip(std::string_view note,
-                                                         std::string_view email);
+    // Shows the dialog and does what the user chose; the attachments (a capture of Mission
+    // Control) go into the archive.
+    static void show(const std::vector<std::filesystem::path>& attachments = {});
+    // The archive of a report with this note, email and attachments; nothing when it could
+    // not be made.
+    static std::optional<std::filesystem::path> buildZip(
+        std::string_view note, std::string_view email,
+        const std::vector<std::filesystem::path>& attachments = {});
     // Posts the archive to the report service and shows the outcome when it is known.
     static void upload(std::string_view note, std::string_view email,
                        const std::filesystem::path& zip);

@@ -10,6 +10,7 @@
 #include "settings/preference_key.h"
 #include "settings/shared.h"
 #include "support/sim_test.h"
+#include "tracking/health.h"
 
 namespace vistrel {
 namespace {
@@ -29,7 +30,7 @@ class DiagnosticsTest : public testing::SimTest {
     }
 };
 
-TEST_F(DiagnosticsTest, TextListsTheTenItemsInOrderOneLineEach) {
+TEST_F(DiagnosticsTest, TextListsEveryItemInOrderOneLineEach) {
     EXPECT_EQ(Diagnostics::text(),
               "Vistrel 1.0 (1)\n"
               "macOS Version 15.1 (Build 24B83), Mac15,3, 8 cores\n"
@@ -42,7 +43,29 @@ TEST_F(DiagnosticsTest, TextListsTheTenItemsInOrderOneLineEach) {
               "Displays have separate Spaces: true\n"
               "Displays:\n"
               "  Built-in Retina Display frame (0, 0, 1440, 900) visible (0, 70, 1440, 805) "
-              "scale 2 (main)\n");
+              "scale 2 (main)\n"
+              "Accessibility grant stale: false\n"
+              "Mission Control self-check: no opening yet, failed openings in a row 0\n"
+              "Event tap switched off often: false\n");
+}
+
+TEST_F(DiagnosticsTest, TheSelfChecksLastResultsGoIntoEveryReport) {
+    Health::shared().setStaleGrant(true);
+    MissionControlReading reading;
+    reading.host = MissionControlHost::windowManager;
+    reading.thumbnails = 7;
+    reading.windows = 7;
+    reading.refusals = 2;
+    Health::shared().openingEnded(reading, 1);
+    const std::vector<std::string> all = lines();
+    ASSERT_GE(all.size(), 3u);
+    EXPECT_EQ(all[all.size() - 3], "Accessibility grant stale: true");
+    EXPECT_EQ(all[all.size() - 2],
+              "Mission Control self-check: host WindowManager, thumbnails 7, windows 7, mapped 0, "
+              "refusals 2, failed openings in a row 1");
+    EXPECT_EQ(all[all.size() - 1], "Event tap switched off often: false");
+    Health::shared().setTapUnsteady(true);
+    EXPECT_EQ(lines().back(), "Event tap switched off often: true");
 }
 
 TEST_F(DiagnosticsTest, ValuesAreReadAtTheMomentOfTheCall) {
@@ -122,7 +145,7 @@ TEST_F(DiagnosticsTest, EveryScreenHasALineAndOnlyTheMainOneIsMarked) {
     desktop.screens()[1].backingScaleFactor = 1;
     desktop.mainScreenIndex = 1;
     const std::vector<std::string> all = lines();
-    ASSERT_EQ(all.size(), 12u);
+    ASSERT_EQ(all.size(), 15u);
     EXPECT_EQ(all[9], "Displays:");
     EXPECT_EQ(
         all[10],
