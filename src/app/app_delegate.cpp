@@ -1,5 +1,6 @@
 #include "app/app_delegate.h"
 
+#include "app/capture_report.h"
 #include "app/move_to_applications.h"
 #include "diagnostics/log.h"
 #include "diagnostics/report_problem.h"
@@ -94,6 +95,7 @@ void AppDelegate::makeStatusMenu() {
     statusMenu_->openAbout = [] { SettingsLauncher::open(false, true); };
     statusMenu_->updater = menuUpdater();
     statusMenu_->reportProblem = [] { ReportProblem::show(); };
+    statusMenu_->sendCapture = [] { CaptureReport::start(); };
 }
 
 // The welcome guide on a first run (it asks for Accessibility itself); afterwards the

@@ -25,6 +25,13 @@ ControlBinding accessibilityStatus() {
     ControlBinding binding;
     binding.status = [](DefaultsStore& store) {
         if (statusFlag(store, PreferenceKey::agentAccessibilityTrusted)) {
+            // The grant is on in System Settings, but macOS refuses every call with it.
+            if (statusFlag(store, PreferenceKey::agentAccessibilityStale)) {
+                return StatusState{
+                    "Needs to be granted again: remove Vistrel from the list with "
+                    "−, then add it again.",
+                    false};
+            }
             return StatusState{"Allowed", true};
         }
         return StatusState{"Not allowed yet", false};

@@ -17,9 +17,9 @@ namespace vistrel {
 namespace {
 
 // The agent's status keys, which status controls read.
-constexpr std::array statusKeys = {PreferenceKey::agentAccessibilityTrusted,
-                                   PreferenceKey::agentLaunchAtLogin,
-                                   PreferenceKey::agentLaunchAtLoginNeedsApproval};
+constexpr std::array statusKeys = {
+    PreferenceKey::agentAccessibilityTrusted, PreferenceKey::agentAccessibilityStale,
+    PreferenceKey::agentLaunchAtLogin, PreferenceKey::agentLaunchAtLoginNeedsApproval};
 // The refresh may come a little late so the system can coalesce wake-ups.
 constexpr double refreshTolerance = 0.1;
 
@@ -29,9 +29,15 @@ std::string versionText() {
     return bundle.version + " (" + bundle.build + ")";
 }
 
-bool trusted(const std::map<std::string, DefaultsValue>& seen) {
-    const auto found = seen.find(std::string(PreferenceKey::agentAccessibilityTrusted));
+bool seenFlag(const std::map<std::string, DefaultsValue>& seen, std::string_view key) {
+    const auto found = seen.find(std::string(key));
     return found != seen.end() && found->second.boolean().value_or(false);
+}
+
+// A stale grant is no grant: the welcome guide waits until one that works.
+bool trusted(const std::map<std::string, DefaultsValue>& seen) {
+    return seenFlag(seen, PreferenceKey::agentAccessibilityTrusted) &&
+           !seenFlag(seen, PreferenceKey::agentAccessibilityStale);
 }
 
 void post(CommandChannel::Command command, std::optional<bool> value) {

@@ -44,8 +44,13 @@ class Health {
     // The event tap logs what it saw; this only keeps it for the readiness row.
     void setTapUnsteady(bool unsteady) { tapUnsteady_ = unsteady; }
 
+    // A capture asked for from the readiness row waits for Mission Control to open.
+    bool captureWaiting() const { return captureWaiting_; }
+    void setCaptureWaiting(bool waiting) { captureWaiting_ = waiting; }
+
   private:
     bool staleGrant_ = false;
+    bool captureWaiting_ = false;
     SelfCheck selfCheck_;
     bool tapUnsteady_ = false;
 };

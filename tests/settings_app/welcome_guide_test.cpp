@@ -77,6 +77,31 @@ TEST_F(WelcomeGuideTest, TheAccessibilityStepShowsTheLiveGrant) {
     EXPECT_EQ(model->status("welcome.accessibility"), (StatusState{"Allowed", true}));
 }
 
+TEST_F(WelcomeGuideTest, AStaleGrantAsksToBeGrantedAgainOnTheGuideAndTheGeneralPage) {
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, true);
+    agentPublishes(PreferenceKey::agentAccessibilityStale, true);
+    const auto model = launch({"--onboarding"});
+    const StatusState stale{
+        "Needs to be granted again: remove Vistrel from the list with −, then add it again.",
+        false};
+    EXPECT_EQ(model->status("welcome.accessibility"), stale);
+    EXPECT_EQ(model->status("general.accessibility"), stale);
+}
+
+TEST_F(WelcomeGuideTest, AStaleGrantDoesNotMoveTheGuideOn) {
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, false);
+    const auto model = launch({"--onboarding"});
+    model->setVisible(true);
+    model->goOn();
+    agentPublishes(PreferenceKey::agentAccessibilityStale, true);
+    agentPublishes(PreferenceKey::agentAccessibilityTrusted, true);
+    wait(2 * SettingsModel::statusRefreshInterval);
+    EXPECT_EQ(model->currentPage().id, PageId::accessibility);
+    agentPublishes(PreferenceKey::agentAccessibilityStale, false);
+    wait(2 * SettingsModel::statusRefreshInterval);
+    EXPECT_EQ(model->currentPage().id, PageId::login);
+}
+
 // The grant arrives mid-way, given in System Settings while the guide waits: within a
 // second the guide sees it and moves on by itself.
 TEST_F(WelcomeGuideTest, TheGrantArrivingMovesTheGuideOnWithinASecond) {

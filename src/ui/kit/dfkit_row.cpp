@@ -30,7 +30,11 @@ DFKitRow::Layout DFKitRow::layoutFor(double width) const {
     Layout layout;
     layout.disc = {discX, discTop, discSize, discSize};
     const double textWidth = std::max(0.0, width - textX - trailingInset);
-    layout.title = {textX, titleTop, textWidth, titleHeight};
+    // A long title (a problem named in plain words) wraps like the detail under it.
+    layout.titleLines = title_.wrapped(textWidth);
+    if (layout.titleLines.empty()) layout.titleLines.push_back(title_.string);
+    layout.title = {textX, titleTop, textWidth,
+                    titleHeight * static_cast<double>(layout.titleLines.size())};
     layout.lines = detail_.wrapped(textWidth);
     layout.detail = {textX, layout.title.maxY(), textWidth,
                      detailLineHeight * static_cast<double>(layout.lines.size())};
@@ -47,6 +51,7 @@ void DFKitRow::layout() {
     discRect_ = layout.disc;
     titleRect_ = layout.title;
     detailRect_ = layout.detail;
+    titleLines_ = std::move(layout.titleLines);
     detailLines_ = std::move(layout.lines);
 }
 
@@ -57,11 +62,16 @@ void DFKitRow::draw(Canvas& canvas, Appearance appearance) const {
                   {discBorder});
     drawGlyph(canvas, glyph_, discRect_.mid(), glyphSize,
               (on_ ? DFKit::onIndigo : DFKit::ink).resolved(appearance));
-    title_.draw(canvas, appearance, titleRect_.x, titleRect_.midY());
-    double midY = detailRect_.y + detailLineHeight / 2;
-    for (const std::string& line : detailLines_) {
-        DFKitText{line, detail_.font, detail_.color}.draw(canvas, appearance, detailRect_.x, midY);
-        midY += detailLineHeight;
+    drawLines(canvas, appearance, title_, titleLines_, titleRect_, titleHeight);
+    drawLines(canvas, appearance, detail_, detailLines_, detailRect_, detailLineHeight);
+}
+
+void DFKitRow::drawLines(Canvas& canvas, Appearance appearance, const DFKitText& style,
+                         const std::vector<std::string>& lines, Rect rect, double lineHeight) {
+    double midY = rect.y + lineHeight / 2;
+    for (const std::string& line : lines) {
+        DFKitText{line, style.font, style.color}.draw(canvas, appearance, rect.x, midY);
+        midY += lineHeight;
     }
 }
 

@@ -43,9 +43,12 @@ class DFKitRow : public DFKitView {
   private:
     struct Layout {
         Rect disc, title, detail;
+        std::vector<std::string> titleLines;
         std::vector<std::string> lines;
     };
     Layout layoutFor(double width) const;
+    static void drawLines(Canvas& canvas, Appearance appearance, const DFKitText& style,
+                          const std::vector<std::string>& lines, Rect rect, double lineHeight);
 
     DFKitGlyph glyph_;
     bool on_;
@@ -53,6 +56,7 @@ class DFKitRow : public DFKitView {
     DFKitText detail_;
     std::optional<DFKitApp> app_;
     Rect discRect_, titleRect_, detailRect_;
+    std::vector<std::string> titleLines_;
     std::vector<std::string> detailLines_;
 };
 

@@ -48,6 +48,8 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     // "Install Updates Automatically" item are then left out.
     std::optional<Updater> updater;
     std::function<void()> reportProblem;
+    // Takes a capture of Mission Control for a problem report, when it cannot be read.
+    std::function<void()> sendCapture;
 
     // The status button's action: opens the panel, or closes it when it is open.
     void clicked();
@@ -69,7 +71,12 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     void willOpen();
     void moreMenu();
     bool keyDown(const KeyPress& press);
+    // Whether Vistrel is ready, or the most pressing reason it is not and what to do.
     DFKitViews readinessRows();
+    DFKitViews cannotReadRows();
+    // A button under a readiness row, lined up with its text.
+    void appendButton(DFKitViews& rows, std::string title,
+                      std::function<void(StatusMenuController&)> body);
     DFKitViews shortcutRows();
     DFKitViews layoutRows();
     DFKitViews bottomRows();

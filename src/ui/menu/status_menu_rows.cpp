@@ -8,6 +8,7 @@
 #include "settings/settings.h"
 #include "settings/shared.h"
 #include "tracking/ax.h"
+#include "tracking/health.h"
 #include "ui/kit/dfkit_button.h"
 #include "ui/kit/dfkit_icon_button.h"
 #include "ui/kit/dfkit_key_row.h"
@@ -61,20 +62,63 @@ DFKitViews StatusMenuController::rows() {
 
 DFKitViews StatusMenuController::readinessRows() {
     DFKitViews rows;
-    if (platform().accessibility.isProcessTrusted()) {
-        append<DFKitRow>(rows, DFKitGlyph::wins, true, "Ready in Mission Control",
-                         "Hover a window for its buttons. The shortcuts act on that window.");
+    switch (Health::shared().problem()) {
+        case Health::Problem::none:
+            append<DFKitRow>(rows, DFKitGlyph::wins, true, "Ready in Mission Control",
+                             "Hover a window for its buttons. The shortcuts act on that window.");
+            break;
+        case Health::Problem::notTrusted:
+            append<DFKitRow>(rows, DFKitGlyph::warning, false, "Allow Accessibility",
+                             "Vistrel needs it to see which window you point at in Mission "
+                             "Control.");
+            appendButton(rows, "Open System Settings…", [](StatusMenuController&) {
+                platform().accessibility.promptForTrust();
+                AX::openSettingsPane();
+            });
+            break;
+        case Health::Problem::staleGrant:
+            append<DFKitRow>(rows, DFKitGlyph::warning, false,
+                             "Accessibility needs to be granted again",
+                             "macOS lists Vistrel as allowed but refuses it. Remove Vistrel from "
+                             "the list with −, then add it again.");
+            appendButton(rows, "Open System Settings…",
+                         [](StatusMenuController&) { AX::openSettingsPane(); });
+            break;
+        case Health::Problem::cannotReadMissionControl:
+            appendAll(rows, cannotReadRows());
+            break;
+        case Health::Problem::tapUnsteady:
+            append<DFKitRow>(rows, DFKitGlyph::warning, false,
+                             "macOS keeps pausing Vistrel's shortcuts",
+                             "Keys and clicks in Mission Control may pass Vistrel by. Quitting "
+                             "an app that stalls input usually helps.");
+            break;
+    }
+    return rows;
+}
+
+DFKitViews StatusMenuController::cannotReadRows() {
+    DFKitViews rows;
+    if (Health::shared().captureWaiting()) {
+        append<DFKitRow>(rows, DFKitGlyph::warning, false,
+                         "Vistrel can't read Mission Control on this Mac",
+                         "Open Mission Control now: the capture is taken as it opens.");
         return rows;
     }
-    append<DFKitRow>(rows, DFKitGlyph::warning, false, "Allow Accessibility",
-                     "Vistrel needs it to see which window you point at in Mission Control.");
-    append<DFKitButton>(rows, "Open System Settings…", DFKitButton::Variant::primary,
-                        allowButtonHeight, rowAction([](StatusMenuController&) {
-                            platform().accessibility.promptForTrust();
-                            AX::openSettingsPane();
-                        }),
-                        allowButtonMargins);
+    append<DFKitRow>(rows, DFKitGlyph::warning, false,
+                     "Vistrel can't read Mission Control on this Mac",
+                     "Your keys and clicks work as usual. A capture of how this Mac shows "
+                     "Mission Control helps us fix it.");
+    appendButton(rows, "Send a Capture…", [](StatusMenuController& self) {
+        if (self.sendCapture) self.sendCapture();
+    });
     return rows;
+}
+
+void StatusMenuController::appendButton(DFKitViews& rows, std::string title,
+                                        std::function<void(StatusMenuController&)> body) {
+    append<DFKitButton>(rows, std::move(title), DFKitButton::Variant::primary, allowButtonHeight,
+                        rowAction(std::move(body)), allowButtonMargins);
 }
 
 DFKitViews StatusMenuController::shortcutRows() {
