@@ -8,6 +8,7 @@
 #include "settings/preference_key.h"
 #include "settings/shared.h"
 #include "status_menu_fixture.h"
+#include "tracking/health.h"
 #include "ui/kit/dfkit_glyph.h"
 #include "ui/kit/dfkit_palette.h"
 
@@ -68,6 +69,19 @@ TEST_F(StatusPanelImageTest, NotTrustedLightMatchesReference) {
 TEST_F(StatusPanelImageTest, NotTrustedDarkMatchesReference) {
     desktop.trusted = false;
     EXPECT_TRUE(matchesReference(picture(Appearance::dark), "status_panel_not_trusted_dark"));
+}
+
+TEST_F(StatusPanelImageTest, StaleGrantLightMatchesReference) {
+    Health::shared().setStaleGrant(true);
+    EXPECT_TRUE(matchesReference(picture(Appearance::light), "status_panel_stale_grant_light"));
+}
+
+TEST_F(StatusPanelImageTest, CannotReadMissionControlDarkMatchesReference) {
+    MissionControlReading nothingRead;
+    nothingRead.windows = 4;
+    for (int i = 0; i < SelfCheck::failuresToTell; ++i)
+        Health::shared().openingEnded(nothingRead, 0);
+    EXPECT_TRUE(matchesReference(picture(Appearance::dark), "status_panel_cannot_read_dark"));
 }
 
 TEST_F(StatusPanelImageTest, NoSavedLayoutsMatchesReference) {
