@@ -2,15 +2,15 @@
 
 #include "app/capture_report.h"
 #include "app/move_to_applications.h"
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "diagnostics/report_problem.h"
 #include "platform/platform.h"
+#include "session/engine.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"
 #include "settings/settings_launcher.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
-#include "tracking/engine.h"
 #include "ui/kit/dfkit_fonts.h"
 #include "ui/menu/status_menu_controller.h"
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "diagnostics/report_problem.h"
 #include "platform/platform.h"
 #include "tracking/health.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <ctime>
 
+#include "base/file_log.h"
+#include "base/log.h"
 #include "diagnostics/diagnostics.h"
-#include "diagnostics/file_log.h"
-#include "diagnostics/log.h"
 #include "platform/platform.h"
 
 namespace vistrel {

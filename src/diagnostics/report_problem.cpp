@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "diagnostics/file_log.h"
-#include "diagnostics/log.h"
+#include "base/file_log.h"
+#include "base/log.h"
 #include "diagnostics/report_archive.h"
 #include "diagnostics/report_endpoint.h"
 #include "diagnostics/report_service.h"

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "layouts/layout_match.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "layouts/layout_action_steps.h"
 #include "platform/platform.h"
 #include "settings/settings.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "layouts/saved_layout_json.h"
 #include "platform/platform.h"
 #include "settings/preference_key.h"

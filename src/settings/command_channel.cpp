@@ -4,10 +4,10 @@
 #include <string>
 
 #include "platform/platform.h"
+#include "settings/accessibility_pane.h"
 #include "settings/settings.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
-#include "tracking/ax.h"
 
 namespace vistrel {
 
@@ -68,7 +68,7 @@ void CommandChannel::perform(const Request& request) {
             return;
         case Command::requestAccessibility:
             platform().accessibility.promptForTrust();
-            AX::openSettingsPane();
+            AccessibilityPane::open();
             return;
         case Command::setLaunchAtLogin:
             Settings::shared().setLaunchAtLogin(request.value);

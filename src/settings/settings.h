@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/hotkey.h"
+#include "base/overlay_button.h"
 #include "platform/defaults.h"
-#include "tracking/hotkey.h"
-#include "views/overlay_button.h"
 
 namespace vistrel {
 

@@ -1,6 +1,6 @@
 #include "settings/settings_launcher.h"
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
 

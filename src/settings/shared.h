@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/hotkey.h"
 #include "platform/defaults.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 

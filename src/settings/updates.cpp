@@ -4,7 +4,7 @@
 #include <mutex>
 #include <string>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 
 namespace vistrel {

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "layouts/layout_store.h"
 #include "layouts/saved_layout_json.h"
 #include "platform/platform.h"

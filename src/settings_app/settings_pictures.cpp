@@ -4,10 +4,10 @@
 #include <array>
 #include <cctype>
 
+#include "session/engine.h"
 #include "settings/settings.h"
 #include "settings_app/settings_palette.h"
 #include "settings_app/settings_text.h"
-#include "tracking/engine.h"
 #include "tracking/overlay_layout.h"
 #include "ui/kit/dfkit_mark.h"
 #include "views/overlay_view.h"

@@ -124,8 +124,4 @@ std::set<OverlayButton> availableButtons(const AXElement& window, std::string_vi
     return buttons;
 }
 
-void openSettingsPane() {
-    platform().workspace.openURL(std::string(settingsPaneURL));
-}
-
 }  // namespace vistrel::AX

@@ -7,12 +7,12 @@
 #include <variant>
 #include <vector>
 
+#include "base/overlay_button.h"
 #include "platform/ax_element.h"
 #include "platform/ax_value.h"
 #include "platform/geometry.h"
 #include "platform/platform.h"
 #include "platform/process.h"
-#include "views/overlay_button.h"
 
 namespace vistrel {
 
@@ -41,10 +41,6 @@ inline constexpr std::string_view fullScreenButton = "AXFullScreenButton";
 inline constexpr std::string_view minimized = "AXMinimized";
 inline constexpr std::string_view fullScreen = "AXFullScreen";
 inline constexpr std::string_view size = "AXSize";
-
-// Where the Accessibility list of the Privacy & Security settings opens.
-inline constexpr std::string_view settingsPaneURL =
-    "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
 // The window found under a point and the process that owns it.
 struct WindowHit {
@@ -93,9 +89,6 @@ std::optional<WindowHit> hitWindow(Point point);
 
 // The overlay buttons that can act on the window under the "maximizeMode" setting.
 std::set<OverlayButton> availableButtons(const AXElement& window, std::string_view maximizeMode);
-
-// Opens the Accessibility list of the system settings.
-void openSettingsPane();
 
 }  // namespace AX
 

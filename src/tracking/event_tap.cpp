@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "tracking/health.h"
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "base/overlay_button.h"
 #include "platform/geometry.h"
-#include "views/overlay_button.h"
 
 namespace vistrel {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"

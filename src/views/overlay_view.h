@@ -3,9 +3,9 @@
 #include <optional>
 #include <vector>
 
+#include "base/overlay_button.h"
 #include "platform/canvas.h"
 #include "platform/window_host.h"
-#include "views/overlay_button.h"
 #include "views/theme.h"
 
 namespace vistrel {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "views/layouts_ui.h"
 #include "windows/screens.h"
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/overlay_button.h"
 #include "platform/color.h"
-#include "views/overlay_button.h"
 
 namespace vistrel {
 

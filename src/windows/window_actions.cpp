@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "settings/settings.h"
 #include "settings/shared.h"

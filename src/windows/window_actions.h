@@ -4,11 +4,11 @@
 #include <optional>
 #include <string_view>
 
+#include "base/hotkey.h"
 #include "platform/ax_element.h"
 #include "platform/executor.h"
 #include "platform/geometry.h"
 #include "platform/process.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"
 #include "windows/lazy_queue.h"

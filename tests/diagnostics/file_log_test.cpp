@@ -1,4 +1,4 @@
-#include "diagnostics/file_log.h"
+#include "base/file_log.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/sim/sim_desktop.h"
+#include "sim/sim_desktop.h"
 #include "support/temp_dir.h"
 
 namespace vistrel {

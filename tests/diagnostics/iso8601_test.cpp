@@ -1,4 +1,4 @@
-#include "diagnostics/iso8601.h"
+#include "base/iso8601.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
-#include "diagnostics/log.h"
+#include "base/log.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
 
-#include "diagnostics/file_log.h"
-#include "platform/sim/sim_desktop.h"
+#include "base/file_log.h"
+#include "sim/sim_desktop.h"
 #include "support/temp_dir.h"
 
 namespace vistrel {

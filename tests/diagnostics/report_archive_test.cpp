@@ -6,9 +6,9 @@
 #include <set>
 #include <string>
 
+#include "base/file_log.h"
+#include "base/log.h"
 #include "diagnostics/diagnostics.h"
-#include "diagnostics/file_log.h"
-#include "diagnostics/log.h"
 #include "diagnostics/report_problem.h"
 #include "report_test.h"
 #include "zip_entries.h"

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "diagnostics/file_log.h"
-#include "diagnostics/log.h"
+#include "base/file_log.h"
+#include "base/log.h"
 #include "report_test.h"
 #include "zip_entries.h"
 

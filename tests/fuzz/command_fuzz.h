@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "platform/defaults_value.h"
-#include "platform/sim/sim_desktop.h"
 #include "settings/command_channel.h"
+#include "sim/sim_desktop.h"
 
 namespace vistrel::fuzz {
 

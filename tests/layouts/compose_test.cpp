@@ -1,4 +1,4 @@
-#include "layouts/compose.h"
+#include "session/compose.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/hotkey.h"
 #include "layouts_controller_fixture.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel::testing {
 namespace {

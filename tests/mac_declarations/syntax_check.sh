@@ -2,7 +2,7 @@
 # Compiles the macOS layer with clang, syntax only, against the declarations in this folder,
 # for one Mac target: arm64 (BOOL is bool) or x86_64 (BOOL is signed char).
 #
-#   syntax_check.sh CLANG ARCH SOURCE_DIR layer     every .mm, .cpp and .h of src/platform/mac
+#   syntax_check.sh CLANG ARCH SOURCE_DIR layer     every .mm, .cpp and .h of the macOS layer
 #   syntax_check.sh CLANG ARCH SOURCE_DIR misuses   every file in misuses/ must be rejected
 #
 # Files are found when the check runs, so a new file is checked without any list to update.
@@ -13,7 +13,9 @@ arch=$2
 source_dir=$3
 mode=$4
 declarations="$source_dir/tests/mac_declarations"
-layer="$source_dir/src/platform/mac"
+# The macOS layer: the platform's implementation, the agent's entry point and the Settings
+# app's AppKit renderer.
+layers=("$source_dir/src/mac" "$source_dir/src/app/mac" "$source_dir/src/settings_app/mac")
 
 case "$arch" in
     arm64) bool_is_bool=1 ;;
@@ -56,9 +58,9 @@ check_layer() {
             echo "FAILED: ${file#"$source_dir/"} ($arch)" >&2
             failed=1
         fi
-    done < <(find "$layer" -type f \( -name '*.mm' -o -name '*.cpp' -o -name '*.h' \) -print0 |
+    done < <(find "${layers[@]}" -type f \( -name '*.mm' -o -name '*.cpp' -o -name '*.h' \) -print0 |
              sort -z)
-    echo "checked $count files of src/platform/mac for $arch"
+    echo "checked $count files of the macOS layer for $arch"
     [[ $count -gt 0 ]] || failed=1
     return $failed
 }

@@ -1,4 +1,4 @@
-#include "platform/sim/sim_dock.h"
+#include "sim/sim_dock.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,10 @@
 #include <cmath>
 #include <string>
 
-#include "platform/sim/sim_scene.h"
-#include "platform/sim/sim_thumbnail_layout.h"
+#include "base/hotkey.h"
+#include "sim/sim_scene.h"
+#include "sim/sim_thumbnail_layout.h"
 #include "support/sim_test.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 namespace {

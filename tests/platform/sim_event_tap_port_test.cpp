@@ -1,4 +1,4 @@
-#include "platform/sim/sim_event_tap_port.h"
+#include "sim/sim_event_tap_port.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/sim/sim_executor.h"
+#include "sim/sim_executor.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/sim/sim_desktop.h"
+#include "sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

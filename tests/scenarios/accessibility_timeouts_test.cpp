@@ -5,12 +5,12 @@
 #include <utility>
 #include <vector>
 
-#include "platform/sim/sim_dock.h"
-#include "platform/sim/sim_presentation.h"
-#include "platform/sim/sim_scene.h"
+#include "base/hotkey.h"
+#include "sim/sim_dock.h"
+#include "sim/sim_presentation.h"
+#include "sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "tracking/ax.h"
-#include "tracking/hotkey.h"
 #include "tracking/thumbnail_reader.h"
 #include "tracking/window_catalog.h"
 #include "windows/window_actions.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "diagnostics/file_log.h"
-#include "diagnostics/log.h"
+#include "base/file_log.h"
+#include "base/log.h"
 #include "layouts/layout_store.h"
 #include "layouts_scenario.h"
 #include "settings/shared.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/hotkey.h"
 #include "layouts_scenario.h"
-#include "tracking/hotkey.h"
 #include "windows/screens.h"
 
 namespace vistrel::testing {

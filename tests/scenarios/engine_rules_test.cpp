@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "base/hotkey.h"
 #include "engine_scenario.h"
 #include "fake_engine_layouts.h"
-#include "platform/sim/sim_event_tap_port.h"
-#include "tracking/hotkey.h"
+#include "sim/sim_event_tap_port.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel::testing {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "base/hotkey.h"
 #include "engine_scenario.h"
-#include "platform/sim/sim_event_tap_port.h"
 #include "settings/shared.h"
-#include "tracking/hotkey.h"
+#include "sim/sim_event_tap_port.h"
 #include "tracking/mission_control_detector.h"
 #include "windows/window_actions.h"
 

@@ -7,10 +7,10 @@
 
 #include <string>
 
+#include "base/hotkey.h"
 #include "layouts_scenario.h"
-#include "platform/sim/sim_event_tap_port.h"
-#include "platform/sim/sim_presentation.h"
-#include "tracking/hotkey.h"
+#include "sim/sim_event_tap_port.h"
+#include "sim/sim_presentation.h"
 
 namespace vistrel::testing {
 namespace {

@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include "tracking/engine_layouts.h"
+#include "session/engine_layouts.h"
 
 namespace vistrel::testing {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "engine_scenario.h"
-#include "layouts/layouts_controller.h"
+#include "session/layouts_controller.h"
 
 namespace vistrel::testing {
 

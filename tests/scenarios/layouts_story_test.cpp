@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "base/hotkey.h"
 #include "layouts/layout_store.h"
 #include "layouts_scenario.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel::testing {
 namespace {

@@ -5,11 +5,11 @@
 #include <memory>
 #include <string>
 
+#include "settings/accessibility_pane.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
 #include "support/sim_test.h"
-#include "tracking/ax.h"
 
 namespace vistrel {
 namespace {
@@ -91,7 +91,7 @@ TEST_F(CommandChannelTest, RequestAccessibilityPromptsAndOpensThePrivacyPane) {
     channel.listen();
     post(command("requestAccessibility"));
     EXPECT_EQ(desktop.trustPrompts, 1);
-    EXPECT_EQ(desktop.workspace().openedURLs, (std::vector{std::string(AX::settingsPaneURL)}));
+    EXPECT_EQ(desktop.workspace().openedURLs, (std::vector{std::string(AccessibilityPane::url)}));
 }
 
 TEST_F(CommandChannelTest, SetLaunchAtLoginWithTrueRegistersTheLoginItem) {

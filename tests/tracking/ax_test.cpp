@@ -181,12 +181,5 @@ TEST_F(AXTest, ClosedWindowGetsNoButtons) {
     EXPECT_TRUE(AX::availableButtons(element(), MaximizeMode::fullScreen).empty());
 }
 
-TEST_F(AXTest, OpenSettingsPaneOpensTheAccessibilityPrivacyList) {
-    AX::openSettingsPane();
-    ASSERT_EQ(desktop.workspace().openedURLs.size(), 1u);
-    EXPECT_EQ(desktop.workspace().openedURLs.front(),
-              "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility");
-}
-
 }  // namespace
 }  // namespace vistrel

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/sim/sim_event_tap_port.h"
+#include "base/hotkey.h"
+#include "sim/sim_event_tap_port.h"
 #include "support/sim_test.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "tracking/hotkey.h"
+#include "base/hotkey.h"
 
 #include <gtest/gtest.h>
 

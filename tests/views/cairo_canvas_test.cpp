@@ -1,10 +1,10 @@
-#include "platform/sim/cairo_canvas.h"
+#include "sim/cairo_canvas.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "platform/sim/sim_desktop.h"
+#include "sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/sim/sim_desktop.h"
+#include "sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel::testing {

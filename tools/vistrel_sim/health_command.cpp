@@ -3,11 +3,11 @@
 #include <string_view>
 
 #include "app/capture_report.h"
-#include "platform/sim/sim_event_tap_port.h"
+#include "base/hotkey.h"
 #include "session_rig.h"
+#include "sim/sim_event_tap_port.h"
 #include "sim_command.h"
 #include "tracking/health.h"
-#include "tracking/hotkey.h"
 #include "tracking/mission_control_detector.h"
 #include "ui/menu/status_menu_controller.h"
 

@@ -2,14 +2,14 @@
 #include <string>
 #include <string_view>
 
+#include "base/hotkey.h"
 #include "layouts/layout_store.h"
-#include "layouts/layouts_controller.h"
-#include "platform/sim/sim_scene.h"
+#include "session/layouts_controller.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "sim/sim_scene.h"
 #include "sim_command.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 

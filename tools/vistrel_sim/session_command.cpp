@@ -2,13 +2,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/sim/sim_scene.h"
+#include "base/hotkey.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "sim/sim_scene.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
-#include "tracking/hotkey.h"
 
 namespace vistrel {
 

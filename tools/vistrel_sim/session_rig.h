@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "platform/platform.h"
-#include "platform/sim/sim_desktop.h"
+#include "session/engine.h"
+#include "sim/sim_desktop.h"
 #include "sim_command.h"
-#include "tracking/engine.h"
 
 namespace vistrel {
 

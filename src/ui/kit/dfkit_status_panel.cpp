@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/display_list.h"
 #include "platform/platform.h"
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "tracking/hotkey.h"
+#include "base/hotkey.h"
 
 namespace vistrel {
 

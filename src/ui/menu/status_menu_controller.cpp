@@ -1,6 +1,6 @@
 #include "ui/menu/status_menu_controller.h"
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"

@@ -1,13 +1,13 @@
 #include <string>
 #include <string_view>
 
-#include "diagnostics/log.h"
+#include "base/log.h"
 #include "layouts/layout_actions.h"
 #include "layouts/layout_store.h"
 #include "platform/platform.h"
+#include "settings/accessibility_pane.h"
 #include "settings/settings.h"
 #include "settings/shared.h"
-#include "tracking/ax.h"
 #include "tracking/health.h"
 #include "ui/kit/dfkit_button.h"
 #include "ui/kit/dfkit_icon_button.h"
@@ -73,7 +73,7 @@ DFKitViews StatusMenuController::readinessRows() {
                              "Control.");
             appendButton(rows, "Open System Settings…", [](StatusMenuController&) {
                 platform().accessibility.promptForTrust();
-                AX::openSettingsPane();
+                AccessibilityPane::open();
             });
             break;
         case Health::Problem::staleGrant:
@@ -82,7 +82,7 @@ DFKitViews StatusMenuController::readinessRows() {
                              "macOS lists Vistrel as allowed but refuses it. Remove Vistrel from "
                              "the list with −, then add it again.");
             appendButton(rows, "Open System Settings…",
-                         [](StatusMenuController&) { AX::openSettingsPane(); });
+                         [](StatusMenuController&) { AccessibilityPane::open(); });
             break;
         case Health::Problem::cannotReadMissionControl:
             appendAll(rows, cannotReadRows());

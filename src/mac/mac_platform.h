@@ -1,0 +1,115 @@
+#pragma once
+
+#include "mac/mac_accessibility.h"
+#include "mac/mac_agent_application.h"
+#include "mac/mac_appearance.h"
+#include "mac/mac_archiver.h"
+#include "mac/mac_defaults.h"
+#include "mac/mac_event_monitors.h"
+#include "mac/mac_event_tap_port.h"
+#include "mac/mac_executor.h"
+#include "mac/mac_file_system.h"
+#include "mac/mac_font_registrar.h"
+#include "mac/mac_info_dictionary.h"
+#include "mac/mac_key_panel.h"
+#include "mac/mac_launch_environment.h"
+#include "mac/mac_login_item.h"
+#include "mac/mac_modal_alert.h"
+#include "mac/mac_native_menus.h"
+#include "mac/mac_notification_center.h"
+#include "mac/mac_process_runner.h"
+#include "mac/mac_report_dialog.h"
+#include "mac/mac_save_panel.h"
+#include "mac/mac_status_bar.h"
+#include "mac/mac_system_info.h"
+#include "mac/mac_system_log.h"
+#include "mac/mac_text.h"
+#include "mac/mac_updater.h"
+#include "mac/mac_uploader.h"
+#include "mac/mac_window_host.h"
+#include "mac/mac_window_server.h"
+#include "mac/mac_workspace.h"
+#include "platform/platform.h"
+#include "posix/posix_file_writer.h"
+
+namespace vistrel {
+
+// The real machine: every platform interface over Apple's frameworks, for the life of
+// the process.
+class MacPlatform {
+  public:
+    MacPlatform()
+        : platform_{.accessibility = accessibility_,
+                    .windowServer = windowServer_,
+                    .workspace = workspace_,
+                    .screens = screens_,
+                    .defaults = defaults_,
+                    .eventTap = eventTap_,
+                    .executor = executor_,
+                    .clock = clock_,
+                    .systemLog = systemLog_,
+                    .loginItem = loginItem_,
+                    .windowHost = windowHost_,
+                    .text = text_,
+                    .notifications = notifications_,
+                    .updates = updates_,
+                    .application = application_,
+                    .systemInfo = systemInfo_,
+                    .infoDictionary = infoDictionary_,
+                    .files = files_,
+                    .alert = alert_,
+                    .reportDialog = reportDialog_,
+                    .savePanel = savePanel_,
+                    .archiver = archiver_,
+                    .uploader = uploader_,
+                    .fonts = fonts_,
+                    .statusBar = statusBar_,
+                    .panels = panels_,
+                    .eventMonitors = eventMonitors_,
+                    .menus = menus_,
+                    .appearance = appearance_,
+                    .launch = launch_,
+                    .processes = processes_,
+                    .fileWriter = fileWriter_} {}
+    MacPlatform(const MacPlatform&) = delete;
+    MacPlatform& operator=(const MacPlatform&) = delete;
+
+    Platform& platform() { return platform_; }
+
+  private:
+    MacAccessibility accessibility_;
+    MacWindowServer windowServer_;
+    MacWorkspace workspace_;
+    MacScreenList screens_;
+    MacDefaults defaults_;
+    MacEventTapPort eventTap_;
+    MacExecutor executor_;
+    MacClock clock_;
+    MacSystemLog systemLog_;
+    MacLoginItem loginItem_;
+    MacWindowHost windowHost_;
+    MacTextMeasurer text_;
+    MacNotificationCenter notifications_;
+    MacUpdateService updates_;
+    MacAgentApplication application_;
+    MacSystemInfo systemInfo_;
+    MacInfoDictionary infoDictionary_;
+    MacFileSystem files_;
+    MacModalAlert alert_;
+    MacReportDialog reportDialog_;
+    MacSavePanel savePanel_;
+    MacArchiver archiver_;
+    MacUploader uploader_;
+    MacFontRegistrar fonts_;
+    MacStatusBar statusBar_;
+    MacKeyPanelHost panels_;
+    MacEventMonitors eventMonitors_;
+    MacNativeMenus menus_;
+    MacAppearance appearance_;
+    MacLaunchEnvironment launch_;
+    MacProcessRunner processes_;
+    PosixFileWriter fileWriter_;
+    Platform platform_;
+};
+
+}  // namespace vistrel

@@ -1,0 +1,206 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "sim/sim_accessibility.h"
+#include "sim/sim_agent_application.h"
+#include "sim/sim_appearance.h"
+#include "sim/sim_archiver.h"
+#include "sim/sim_clock.h"
+#include "sim/sim_defaults.h"
+#include "sim/sim_dock.h"
+#include "sim/sim_event_monitors.h"
+#include "sim/sim_event_tap_port.h"
+#include "sim/sim_executor.h"
+#include "sim/sim_file_system.h"
+#include "sim/sim_file_writer.h"
+#include "sim/sim_font_registrar.h"
+#include "sim/sim_info_dictionary.h"
+#include "sim/sim_installations.h"
+#include "sim/sim_key_panel.h"
+#include "sim/sim_launch_environment.h"
+#include "sim/sim_login_item.h"
+#include "sim/sim_modal_alert.h"
+#include "sim/sim_model.h"
+#include "sim/sim_native_menus.h"
+#include "sim/sim_notification_center.h"
+#include "sim/sim_process_runner.h"
+#include "sim/sim_report_dialog.h"
+#include "sim/sim_save_panel.h"
+#include "sim/sim_status_bar.h"
+#include "sim/sim_system_info.h"
+#include "sim/sim_system_log.h"
+#include "sim/sim_text_measurer.h"
+#include "sim/sim_updater.h"
+#include "sim/sim_uploader.h"
+#include "sim/sim_window_host.h"
+#include "sim/sim_window_server.h"
+#include "sim/sim_workspace.h"
+
+namespace vistrel {
+
+// The simulated screen size every scene starts with.
+inline constexpr Rect simPrimaryScreen{0, 0, 1440, 900};
+// The menu bar's and the Dock's share of a simulated screen, in points.
+inline constexpr double simMenuBarHeight = 25;
+inline constexpr double simDockHeight = 70;
+
+// One coherent simulated desktop: applications and their windows, screens, the defaults
+// domains, the Accessibility grant, the login item, the system log, an event stream and
+// virtual time. Every platform interface reads and writes this one model, so a test can
+// act through the core and look at the result here.
+class SimDesktop {
+  public:
+    // An empty desktop with one 1440×900 screen, trusted for Accessibility, as the agent
+    // itself ("com.quillmarsh.vistrel").
+    SimDesktop();
+    ~SimDesktop();
+    SimDesktop(const SimDesktop&) = delete;
+    SimDesktop& operator=(const SimDesktop&) = delete;
+
+    Platform& platform() { return platform_; }
+    SimClock& clock() { return clock_; }
+    SimExecutor& executor() { return executor_; }
+    SimAccessibility& accessibility() { return accessibility_; }
+    SimWindowServer& windowServer() { return windowServer_; }
+    SimWorkspace& workspace() { return workspace_; }
+    SimDefaults& defaults() { return defaults_; }
+    SimEventTapPort& eventTap() { return eventTap_; }
+    SimSystemLog& systemLog() { return systemLog_; }
+    SimLoginItem& loginItem() { return loginItem_; }
+    SimWindowHost& windowHost() { return windowHost_; }
+    SimNotificationCenter& notifications() { return notifications_; }
+    SimUpdateService& updates() { return updates_; }
+    SimAgentApplication& application() { return application_; }
+    SimSystemInfo& systemInfo() { return systemInfo_; }
+    SimInfoDictionary& infoDictionary() { return infoDictionary_; }
+    SimFileSystem& files() { return files_; }
+    SimModalAlert& alert() { return alert_; }
+    SimReportDialog& reportDialog() { return reportDialog_; }
+    SimSavePanel& savePanel() { return savePanel_; }
+    SimArchiver& archiver() { return archiver_; }
+    SimUploader& uploader() { return uploader_; }
+    SimFontRegistrar& fonts() { return fonts_; }
+    // The menu bar's status items, the agent's key panels, event monitors, native menus and
+    // the system appearance.
+    SimStatusBar& statusBar() { return statusBar_; }
+    SimKeyPanelHost& panels() { return panels_; }
+    SimEventMonitors& eventMonitors() { return eventMonitors_; }
+    SimNativeMenus& menus() { return menus_; }
+    SimAppearance& appearance() { return appearance_; }
+    SimLaunchEnvironment& launch() { return launch_; }
+    SimProcessRunner& processes() { return processes_; }
+    // Appending to real files, with a full disk to stage.
+    SimFileWriter& fileWriter() { return fileWriter_; }
+    // Fills the disk (or frees it): file appends fail and defaults writes do not take.
+    void setDiskFull(bool full) {
+        fileWriter_.setDiskFull(full);
+        defaults_.setDiskFull(full);
+    }
+    // The Dock and its Mission Control; not running until launched or opened.
+    SimDock& dock() { return dock_; }
+
+    // Applications on the simulated disk, and their launches.
+    SimInstallations& installations() { return installations_; }
+
+    // Applications, in the workspace's order.
+    Pid addApplication(SimApplication application);
+    SimApplication* application(Pid pid);
+    const std::vector<SimApplication>& applications() const { return applications_; }
+    void removeApplication(Pid pid);
+
+    // Windows, front to back. A new window opens in front of the others.
+    SimWindowId addWindow(Pid pid, SimWindow window);
+    SimWindow* window(SimWindowId id);
+    const std::vector<SimWindow>& windows() const { return windows_; }
+    std::vector<SimWindowId> windowsOf(Pid pid) const;
+    void bringToFront(SimWindowId id);
+    // Every window of the application to the front, keeping their order among themselves.
+    void bringApplicationToFront(Pid pid);
+    void closeWindow(SimWindowId id);
+    // Windows the window server shows: open, not minimized, application not hidden or gone.
+    bool isOnScreen(const SimWindow& window) const;
+    // The front-most on-screen window containing the point.
+    std::optional<SimWindowId> windowAt(Point point) const;
+
+    // Screens, in NSScreen.screens order, frames in AppKit coordinates.
+    std::vector<ScreenDescription>& screens() { return screens_; }
+    std::optional<std::size_t> mainScreenIndex = 0;
+    // NSScreen.screensHaveSeparateSpaces, on by default as on a Mac.
+    bool separateSpaces = true;
+    // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
+    void addScreenToTheRight(Size size);
+    // The screens' frames in accessibility coordinates (origin at the primary's top-left).
+    std::vector<Rect> accessibilityScreenFrames() const;
+
+    // The agent's own process and bundle.
+    Pid ownPid = 100;
+    BundleInfo bundle{std::string("com.quillmarsh.vistrel"), "1.0", "1",
+                      "/Applications/Vistrel.app"};
+
+    // The Accessibility grant; revoking it makes every accessibility call fail.
+    bool trusted = true;
+    int trustPrompts = 0;
+    // A stale grant: the system still reports the grant, but every accessibility call
+    // answers this error, as after an update or a re-signed build (AXSwift issue 39).
+    std::optional<AXError> staleGrant;
+
+  private:
+    SimClock clock_;
+    SimExecutor executor_;
+    SimAccessibility accessibility_;
+    SimWindowServer windowServer_;
+    SimWorkspace workspace_;
+    SimDefaults defaults_;
+    SimEventTapPort eventTap_;
+    SimSystemLog systemLog_;
+    SimLoginItem loginItem_;
+    SimWindowHost windowHost_;
+    SimTextMeasurer text_;
+    SimScreenList screenList_;
+    SimNotificationCenter notifications_{executor_};
+    SimUpdateService updates_;
+    SimAgentApplication application_;
+    SimSystemInfo systemInfo_;
+    SimInfoDictionary infoDictionary_;
+    SimFileSystem files_;
+    SimModalAlert alert_;
+    SimReportDialog reportDialog_;
+    SimSavePanel savePanel_;
+    SimArchiver archiver_;
+    SimUploader uploader_;
+    SimFontRegistrar fonts_{bundle.path};
+    SimStatusBar statusBar_{*this};
+    SimKeyPanelHost panels_;
+    SimEventMonitors eventMonitors_;
+    SimNativeMenus menus_;
+    SimAppearance appearance_;
+    SimLaunchEnvironment launch_;
+    SimProcessRunner processes_;
+    SimFileWriter fileWriter_;
+    Platform platform_;
+    SimDock dock_;
+    SimInstallations installations_{*this};
+
+    std::vector<SimApplication> applications_;
+    std::vector<SimWindow> windows_;
+    std::vector<ScreenDescription> screens_;
+    SimWindowId nextWindowId_ = 1;
+    Pid nextPid_ = 500;
+};
+
+// Installs a desktop as the platform for the lifetime of this object.
+class ScopedPlatform {
+  public:
+    explicit ScopedPlatform(SimDesktop& desktop) { installPlatform(&desktop.platform()); }
+    ~ScopedPlatform() { installPlatform(nullptr); }
+    ScopedPlatform(const ScopedPlatform&) = delete;
+    ScopedPlatform& operator=(const ScopedPlatform&) = delete;
+};
+
+}  // namespace vistrel
