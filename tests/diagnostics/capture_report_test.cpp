@@ -39,13 +39,6 @@ class CaptureReportTest : public testing::ReportTest {
         desktop.executor().advance(3);
         desktop.executor().runUntilIdle();
     }
-    std::vector<fs::path> archives() {
-        std::vector<fs::path> found;
-        for (const auto& entry : fs::recursive_directory_iterator(temporary())) {
-            if (entry.path().extension() == ".zip") found.push_back(entry.path());
-        }
-        return found;
-    }
 };
 
 TEST_F(CaptureReportTest, ACaptureTakenAtTheNextOpeningGoesIntoTheReportWithoutTitles) {

@@ -26,14 +26,6 @@ class ReportProblemTest : public testing::ReportTest {
         Log::file().flush();
         return readFile(logs() / "Vistrel.log");
     }
-    // The archives made so far, in the test's temporary folder.
-    std::vector<fs::path> archives() {
-        std::vector<fs::path> found;
-        for (const auto& entry : fs::recursive_directory_iterator(temporary())) {
-            if (entry.path().extension() == ".zip") found.push_back(entry.path());
-        }
-        return found;
-    }
 };
 
 TEST_F(ReportProblemTest, DialogHasItsTitleTextButtonsAndPlaceholder) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "diagnostics/report_service.h"
 #include "support/sim_test.h"
@@ -38,6 +39,15 @@ class ReportTest : public SimTest {
                 std::chrono::duration<double>(desktop.clock().now() - age)));
         std::filesystem::last_write_time(path, std::chrono::file_clock::from_sys(now));
         return path;
+    }
+
+    // The archives made so far, in the test's temporary folder.
+    std::vector<std::filesystem::path> archives() {
+        std::vector<std::filesystem::path> found;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(temporary())) {
+            if (entry.path().extension() == ".zip") found.push_back(entry.path());
+        }
+        return found;
     }
 
     void pointServiceAt(const std::string& baseURL) {

@@ -67,6 +67,14 @@ bool EngineScenario::keyUp(std::int64_t code) {
     return passed;
 }
 
+Rect EngineScenario::thumbOfWindow(SimWindowId id) {
+    for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
+        if (thumbnail.window == id) return thumbnail.frame;
+    }
+    ADD_FAILURE() << "no thumbnail for window " << id;
+    return {};
+}
+
 SimWindowId EngineScenario::windowTitled(const std::string& title) {
     for (const SimWindow& window : desktop.windows()) {
         if (window.title == title) return window.id;

@@ -40,6 +40,8 @@ class EngineScenario : public ::testing::Test {
 
     // The thumbnail of the window with this title, and the window itself.
     Rect thumbOf(const std::string& title);
+    // The thumbnail Mission Control shows for a window, read from the simulated Dock.
+    Rect thumbOfWindow(SimWindowId id);
     SimWindowId windowTitled(const std::string& title);
     // The middle of a thumbnail, clear of its scaled title bar.
     Point inside(Rect thumb) const { return {thumb.midX(), thumb.midY()}; }

@@ -37,13 +37,6 @@ class FailOpenTest : public LayoutsScenario, public ::testing::WithParamInterfac
         window.frame = frame;
         return window;
     }
-    Rect thumbOfWindow(SimWindowId id) {
-        for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
-            if (thumbnail.window == id) return thumbnail.frame;
-        }
-        ADD_FAILURE() << "no thumbnail for window " << id;
-        return {};
-    }
     // Every shortcut, pressed with the pointer at rest over the point: each must go on to
     // the system and leave every window as it was.
     void everyShortcutPassesOver(Point point) {

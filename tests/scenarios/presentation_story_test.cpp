@@ -57,13 +57,6 @@ class PresentationStoryTest : public LayoutsScenario,
         return made;
     }
 
-    Rect thumbOfWindow(SimWindowId id) {
-        for (const SimThumbnail& thumbnail : desktop.dock().thumbnails()) {
-            if (thumbnail.window == id) return thumbnail.frame;
-        }
-        ADD_FAILURE() << "no thumbnail for window " << id;
-        return {};
-    }
     // The window the engine targets after the pointer came to rest over a window's
     // thumbnail; nothing when it targets none. Any other window fails the test.
     std::optional<SimWindowId> targetOver(SimWindowId id) {

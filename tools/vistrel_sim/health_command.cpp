@@ -46,8 +46,6 @@ class HealthSession {
     void toggleGrant();
     bool openPanel();
     bool closePanel();
-    bool clickRow(const std::string& label);
-    SimKeyPanel* panel();
     bool openAndClose(int times);
     Point centreOf(const std::string& title);
     std::optional<Point> thumbnailCentreOf(const std::string& title);
@@ -82,21 +80,17 @@ int HealthSession::play() {
         [] { return std::optional<SimWindowId>(); });
 }
 
-SimKeyPanel* HealthSession::panel() {
-    const auto& panels = rig_.desktop().panels().panels();
-    return panels.empty() ? nullptr : panels.front();
-}
-
 bool HealthSession::openPanel() {
-    if (panel() && panel()->isVisible()) return true;
+    if (rig_.statusPanel() && rig_.statusPanel()->isVisible()) return true;
     // A click right after the panel closed would leave it closed.
     rig_.desktop().executor().advance(StatusMenuController::reopenGuard * 2);
     const auto& items = rig_.desktop().statusBar().items();
     if (items.empty()) return rig_.fail("no status item to click");
     items.front()->click();
     rig_.desktop().executor().runUntilIdle();
-    if (!panel() || !panel()->isVisible()) return rig_.fail("the panel did not open");
-    for (const AccessibilityNode& node : panel()->accessibilityNodes()) {
+    if (!rig_.statusPanel() || !rig_.statusPanel()->isVisible())
+        return rig_.fail("the panel did not open");
+    for (const AccessibilityNode& node : rig_.statusPanel()->accessibilityNodes()) {
         if (node.role == "AXStaticText" && !node.help.empty()) {
             rig_.out() << "  readiness: \"" << node.label << "\"\n";
             break;
@@ -106,18 +100,8 @@ bool HealthSession::openPanel() {
 }
 
 bool HealthSession::closePanel() {
-    if (panel() && panel()->isVisible()) menu_->clicked();
+    if (rig_.statusPanel() && rig_.statusPanel()->isVisible()) menu_->clicked();
     return true;
-}
-
-bool HealthSession::clickRow(const std::string& label) {
-    for (const AccessibilityNode& node : panel()->accessibilityNodes()) {
-        if (node.label != label) continue;
-        panel()->click(node.frame.mid());
-        rig_.desktop().executor().runUntilIdle();
-        return true;
-    }
-    return rig_.fail("the panel has no \"" + label + "\"");
 }
 
 void HealthSession::toggleGrant() {
@@ -185,7 +169,7 @@ bool HealthSession::cannotRead() {
 
 bool HealthSession::captureWaits() {
     rig_.desktop().alert().answers.push_back(0);
-    if (!clickRow("Send a Capture…")) return false;
+    if (!rig_.clickPanelRow("Send a Capture…")) return false;
     if (!Health::shared().captureWaiting()) return rig_.fail("no capture waits");
     return openPanel();
 }

@@ -55,8 +55,6 @@ class MenuSession {
     bool hideItem();
 
     bool clickItem();
-    bool clickRow(const std::string& label);
-    SimKeyPanel* panel();
     bool pictures(int number, std::string_view picture);
 
     SessionRig rig_;
@@ -94,11 +92,6 @@ bool MenuSession::pictures(int number, std::string_view picture) {
     return dark;
 }
 
-SimKeyPanel* MenuSession::panel() {
-    const auto& panels = rig_.desktop().panels().panels();
-    return panels.empty() ? nullptr : panels.front();
-}
-
 bool MenuSession::clickItem() {
     const auto& items = rig_.desktop().statusBar().items();
     if (items.empty() || !items.front()->isVisible()) return rig_.fail("no status item to click");
@@ -107,27 +100,17 @@ bool MenuSession::clickItem() {
     return true;
 }
 
-bool MenuSession::clickRow(const std::string& label) {
-    if (!panel() || !panel()->isVisible()) return rig_.fail("the panel is not open");
-    for (const AccessibilityNode& node : panel()->accessibilityNodes()) {
-        if (node.label != label) continue;
-        panel()->click(node.frame.mid());
-        rig_.desktop().executor().runUntilIdle();
-        return true;
-    }
-    return rig_.fail("the panel has no \"" + label + "\"");
-}
-
 bool MenuSession::open() {
     if (!clickItem()) return false;
-    if (!panel() || !panel()->isVisible()) return rig_.fail("the panel did not open");
-    rig_.out() << "  the panel hangs at " << describeRect(panel()->frame()) << " with "
-               << panel()->accessibilityNodes().size() << " accessible elements\n";
+    if (!rig_.statusPanel() || !rig_.statusPanel()->isVisible())
+        return rig_.fail("the panel did not open");
+    rig_.out() << "  the panel hangs at " << describeRect(rig_.statusPanel()->frame()) << " with "
+               << rig_.statusPanel()->accessibilityNodes().size() << " accessible elements\n";
     return true;
 }
 
 bool MenuSession::switchHideOff() {
-    if (!clickRow("Hide app")) return false;
+    if (!rig_.clickPanelRow("Hide app")) return false;
     rig_.out() << "  hotkey.hide.disabled = "
                << (Settings::shared().hotkeyDisabled(Hotkey::hide) ? "true" : "false") << "\n";
     return true;
@@ -137,7 +120,7 @@ bool MenuSession::reopen() {
     if (!clickItem()) return false;
     rig_.pause();
     if (!open()) return false;
-    for (const AccessibilityNode& node : panel()->accessibilityNodes()) {
+    for (const AccessibilityNode& node : rig_.statusPanel()->accessibilityNodes()) {
         if (node.label == "Hide app" && node.value == true)
             return rig_.fail("Command-H shows on again");
     }
@@ -145,7 +128,7 @@ bool MenuSession::reopen() {
 }
 
 bool MenuSession::moreOptions() {
-    if (!clickRow("More options")) return false;
+    if (!rig_.clickPanelRow("More options")) return false;
     const auto& menu = rig_.desktop().menus().openMenu();
     if (!menu) return rig_.fail("no menu appeared");
     rig_.out() << "  the menu holds " << menu->items.size() << " items\n";
@@ -154,9 +137,9 @@ bool MenuSession::moreOptions() {
 
 bool MenuSession::restoreLayout() {
     rig_.desktop().menus().dismiss();
-    if (!clickRow("Safari · Notes")) return false;
+    if (!rig_.clickPanelRow("Safari · Notes")) return false;
     rig_.desktop().executor().advance(restoreSettle);
-    if (panel()->isVisible()) return rig_.fail("the panel stayed open");
+    if (rig_.statusPanel()->isVisible()) return rig_.fail("the panel stayed open");
     for (const SimWindow& window : rig_.desktop().windows()) {
         if (rig_.desktop().isOnScreen(window))
             rig_.out() << "    \"" << window.title << "\" " << describeRect(window.frame) << "\n";
@@ -165,7 +148,7 @@ bool MenuSession::restoreLayout() {
 }
 
 bool MenuSession::hideItem() {
-    if (!open() || !clickRow("More options")) return false;
+    if (!open() || !rig_.clickPanelRow("More options")) return false;
     if (!rig_.desktop().menus().choose("Hide This Menu Item"))
         return rig_.fail("the menu has no Hide This Menu Item");
     if (rig_.desktop().statusBar().items().front()->isVisible())

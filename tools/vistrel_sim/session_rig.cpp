@@ -175,4 +175,21 @@ bool SessionRig::fail(std::string_view why) {
     return false;
 }
 
+SimKeyPanel* SessionRig::statusPanel() {
+    const auto& panels = desktop_.panels().panels();
+    return panels.empty() ? nullptr : panels.front();
+}
+
+bool SessionRig::clickPanelRow(const std::string& label) {
+    SimKeyPanel* panel = statusPanel();
+    if (!panel || !panel->isVisible()) return fail("the panel is not open");
+    for (const AccessibilityNode& node : panel->accessibilityNodes()) {
+        if (node.label != label) continue;
+        panel->click(node.frame.mid());
+        desktop_.executor().runUntilIdle();
+        return true;
+    }
+    return fail("the panel has no \"" + label + "\"");
+}
+
 }  // namespace vistrel

@@ -108,6 +108,12 @@ class SessionRig {
     bool openMissionControl();
     bool closeMissionControl();
 
+    // The status item's panel, once a click made one; nothing before.
+    SimKeyPanel* statusPanel();
+    // Clicks the row of the open status panel with this label and runs what it starts; false
+    // (saying why) when the panel is closed or has no such row.
+    bool clickPanelRow(const std::string& label);
+
     bool takePicture(int number, std::string_view picture, std::optional<SimWindowId> hovered);
     std::string titleOf(SimWindowId id);
     // Prints why the session stopped; false, to return from the step.
