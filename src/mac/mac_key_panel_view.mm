@@ -85,6 +85,12 @@
     if (self.events.mouseMoved) self.events.mouseMoved([self pointOf:event]);
 }
 
+- (void)scrollWheel:(NSEvent*)event {
+    if (self.events.scrolled)
+        self.events.scrolled([self pointOf:event], event.scrollingDeltaY,
+                             event.hasPreciseScrollingDeltas);
+}
+
 - (void)mouseExited:(NSEvent*)event {
     (void)event;
     if (self.events.mouseMoved) self.events.mouseMoved(std::nullopt);

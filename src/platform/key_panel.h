@@ -39,6 +39,10 @@ struct KeyPanelEvents {
     std::function<void(Point)> mouseUp;
     // The pointer moved over the content; nothing when it left.
     std::function<void(std::optional<Point>)> mouseMoved;
+    // scrollWheel(_:) over the content: NSEvent.scrollingDeltaY (positive when the user
+    // scrolls to see what is above) and whether it counts points (a trackpad, a precise
+    // mouse) rather than lines (hasPreciseScrollingDeltas).
+    std::function<void(Point, double deltaY, bool precise)> scrolled;
     // cancelOperation(_:): Escape while the panel is key.
     std::function<void()> escape;
     // windowDidResignKey.

@@ -43,6 +43,10 @@ void SimKeyPanel::moveMouse(std::optional<Point> point) {
     if (visible_ && events_.mouseMoved) events_.mouseMoved(point);
 }
 
+void SimKeyPanel::scroll(Point point, double deltaY, bool precise) {
+    if (visible_ && events_.scrolled) events_.scrolled(point, deltaY, precise);
+}
+
 void SimKeyPanel::pressEscape() {
     if (key_ && events_.escape) events_.escape();
 }

@@ -37,6 +37,8 @@ class SimKeyPanel : public KeyPanel {
     void mouseDown(Point point);
     void mouseUp(Point point);
     void moveMouse(std::optional<Point> point);
+    // The wheel or the trackpad over the content, as NSEvent reports it.
+    void scroll(Point point, double deltaY, bool precise);
     void pressEscape();
     // Another window takes the keyboard.
     void resignKey();

@@ -11,6 +11,7 @@
 #include "tracking/health.h"
 #include "ui/kit/dfkit_glyph.h"
 #include "ui/kit/dfkit_palette.h"
+#include "ui/kit/dfkit_scroll_view.h"
 
 namespace vistrel::testing {
 namespace {
@@ -82,6 +83,22 @@ TEST_F(StatusPanelImageTest, CannotReadMissionControlDarkMatchesReference) {
     for (int i = 0; i < SelfCheck::failuresToTell; ++i)
         Health::shared().openingEnded(nothingRead, 0);
     EXPECT_TRUE(matchesReference(picture(Appearance::dark), "status_panel_cannot_read_dark"));
+}
+
+// A 1280×800 display with ten layouts, the update row and the Accessibility button: the
+// layouts scroll, scrolled a little way down.
+TEST_F(StatusPanelImageTest, CrowdedOnASmallDisplayMatchesReference) {
+    ScreenDescription& screen = desktop.screens().front();
+    screen.frame = {0, 0, 1280, 800};
+    screen.visibleFrame = {0, 70, 1280, 705};
+    controller->updater = StatusMenuController::Updater{[] {}, [] { return false; }, [](bool) {}};
+    desktop.trusted = false;
+    saveLayouts(10);
+    open();
+    for (const auto& row : controller->panel()->content().rows()) {
+        if (auto* layouts = dynamic_cast<DFKitScrollView*>(row.get())) layouts->scrollBy(40);
+    }
+    EXPECT_TRUE(matchesReference(picture(Appearance::light), "status_panel_crowded_small_display"));
 }
 
 TEST_F(StatusPanelImageTest, NoSavedLayoutsMatchesReference) {

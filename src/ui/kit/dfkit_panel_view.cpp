@@ -1,8 +1,10 @@
 #include "ui/kit/dfkit_panel_view.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ui/kit/dfkit_palette.h"
+#include "ui/kit/dfkit_scroll_view.h"
 
 namespace vistrel {
 
@@ -17,6 +19,33 @@ DFKitViews DFKitPanelView::setRows(DFKitViews rows) {
         adopt(*row);
     setFrame({frame().x, frame().y, rowWidth + 2 * margin, sizeThatFits(rowWidth).height});
     return previous;
+}
+
+void DFKitPanelView::fitHeight(double height) {
+    std::vector<DFKitScrollView*> columns;
+    for (const auto& row : rows_) {
+        if (auto* column = dynamic_cast<DFKitScrollView*>(row.get())) {
+            column->setMaxHeight(std::nullopt);
+            columns.push_back(column);
+        }
+    }
+    double excess = sizeThatFits(rowWidth).height - height;
+    for (DFKitScrollView* column : columns) {
+        if (excess <= 0) break;
+        const double whole = column->contentHeight(rowWidth);
+        const double kept = std::max(std::min(whole, leastScrollHeight), whole - excess);
+        column->setMaxHeight(kept);
+        excess -= whole - kept;
+    }
+    setFrame({frame().x, frame().y, rowWidth + 2 * margin, sizeThatFits(rowWidth).height});
+}
+
+bool DFKitPanelView::scroll(Point point, double dy) {
+    for (const auto& row : rows_) {
+        auto* column = dynamic_cast<DFKitScrollView*>(row.get());
+        if (column && column->frame().contains(point)) return column->scrollBy(dy);
+    }
+    return false;
 }
 
 Size DFKitPanelView::sizeThatFits(double) const {

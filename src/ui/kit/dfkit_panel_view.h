@@ -12,8 +12,16 @@ class DFKitPanelView : public DFKitView {
     static constexpr double margin = 8;
     static constexpr double cornerRadius = 12;
 
+    // The least a scrolling column keeps of its window when the panel must shrink.
+    static constexpr double leastScrollHeight = 56;
+
     // Replaces the rows and sizes the panel to them; answers the rows it had.
     DFKitViews setRows(DFKitViews rows);
+    // Sizes the panel to be at most `height` tall: its scrolling columns give up what it
+    // must lose (each keeps at least leastScrollHeight), every other row keeps its size.
+    void fitHeight(double height);
+    // Scrolls the scrolling column under a point by `dy`; answers whether it moved.
+    bool scroll(Point point, double dy);
     const DFKitViews& rows() const { return rows_; }
 
     Size sizeThatFits(double width) const override;

@@ -45,6 +45,8 @@ void DFKitStatusPanel::makeWindow() {
         .mouseDown = [this](Point point) { mouseDown(point); },
         .mouseUp = [this](Point point) { mouseUp(point); },
         .mouseMoved = [this](std::optional<Point> point) { mouseMoved(point); },
+        .scrolled = [this](Point point, double deltaY,
+                           bool precise) { scrolled(point, deltaY, precise); },
         .escape =
             [this] {
                 if (onEscape) onEscape();
@@ -92,10 +94,13 @@ void DFKitStatusPanel::position() {
     if (!window_ || !button_) return;
     const std::optional<Rect> button = button_->buttonFrame();
     if (!button) return;
+    const std::optional<ScreenDescription> screen = screenOf(*button);
+    // Never past the bottom of the screen's visible part: the scrolling rows give way.
+    if (screen) content_.fitHeight(button->minY() - screen->visibleFrame.minY() - 2 * screenGap);
     const Size size = content_.frame().size();
     Rect frame{button->midX() - size.width / 2, button->minY() - screenGap - size.height,
                size.width, size.height};
-    if (const std::optional<ScreenDescription> screen = screenOf(*button)) {
+    if (screen) {
         const Rect visible = screen->visibleFrame;
         frame.x = std::clamp(
             frame.x, visible.minX() + screenGap,
@@ -151,6 +156,12 @@ void DFKitStatusPanel::mouseMoved(std::optional<Point> point) {
     if (hovered_) hovered_->setHovered(false);
     hovered_ = over;
     if (hovered_) hovered_->setHovered(true);
+}
+
+// A positive delta shows what is above, so the rows move down: the offset shrinks.
+void DFKitStatusPanel::scrolled(Point point, double deltaY, bool precise) {
+    if (!content_.scroll(point, -(precise ? deltaY : deltaY * scrollLine))) return;
+    mouseMoved(point);
 }
 
 void DFKitStatusPanel::appearanceChanged(Appearance appearance) {

@@ -19,6 +19,8 @@ class DFKitStatusPanel : public DFKitHost {
   public:
     // The panel hangs this far below the menu bar and keeps this far from the screen's sides.
     static constexpr double screenGap = 6;
+    // A wheel's line, for a mouse that scrolls by lines rather than points.
+    static constexpr double scrollLine = 12;
 
     using Build = std::function<DFKitViews()>;
 
@@ -57,6 +59,7 @@ class DFKitStatusPanel : public DFKitHost {
     void mouseDown(Point point);
     void mouseUp(Point point);
     void mouseMoved(std::optional<Point> point);
+    void scrolled(Point point, double deltaY, bool precise);
     void appearanceChanged(Appearance appearance);
 
     DFKitPanelView content_;

@@ -13,6 +13,7 @@ void DFKitView::display(Canvas& canvas, Appearance appearance) const {
     draw(canvas, appearance);
     for (const DFKitView* child : subviews())
         child->display(canvas, appearance);
+    drawAbove(canvas, appearance);
     canvas.restore();
 }
 

@@ -50,6 +50,8 @@ class DFKitView {
     virtual double bottomMargin() const { return 0; }
 
     virtual void draw(Canvas& canvas, Appearance appearance) const = 0;
+    // Draws over the subviews, inside the same clip: a scroller, a fade.
+    virtual void drawAbove(Canvas&, Appearance) const {}
     // Draws the view and its subviews at the view's frame.
     void display(Canvas& canvas, Appearance appearance) const;
 

@@ -15,6 +15,7 @@
 #include "ui/kit/dfkit_menu_row.h"
 #include "ui/kit/dfkit_panel_header.h"
 #include "ui/kit/dfkit_row.h"
+#include "ui/kit/dfkit_scroll_view.h"
 #include "ui/kit/dfkit_section_label.h"
 #include "ui/kit/dfkit_separator.h"
 #include "ui/menu/shortcut_text.h"
@@ -138,16 +139,19 @@ DFKitViews StatusMenuController::layoutRows() {
     DFKitViews rows;
     append<DFKitSeparator>(rows);
     append<DFKitSectionLabel>(rows, "Layouts");
-    const std::vector<SavedLayout> saved = LayoutStore::load(*Shared::store());
-    for (std::size_t i = 0; i < saved.size() && i < maxLayoutRows; ++i) {
-        const SavedLayout& layout = saved[i];
+    // The saved layouts scroll when the screen has no room for them all; the rest stays put.
+    DFKitViews saved;
+    const std::vector<SavedLayout> layouts = LayoutStore::load(*Shared::store());
+    for (std::size_t i = 0; i < layouts.size() && i < maxLayoutRows; ++i) {
+        const SavedLayout& layout = layouts[i];
         append<DFKitMenuRow>(
-            rows, DFKitGlyph::apps, layout.name, std::nullopt,
+            saved, DFKitGlyph::apps, layout.name, std::nullopt,
             rowAction([layout](StatusMenuController&) {
                 Log::info("layouts: restoring \"" + layout.name + "\" from the menu");
                 LayoutActions::restore(layout, [](std::vector<WindowRef>) {});
             }));
     }
+    if (!saved.empty()) append<DFKitScrollView>(rows, std::move(saved));
     append<DFKitMenuRow>(rows, DFKitGlyph::plus, "Save Current Layout", std::nullopt,
                          rowAction([](StatusMenuController&) {
                              LayoutActions::captureCurrent([](std::optional<SavedLayout> layout) {

@@ -17,6 +17,10 @@ VISTREL_OPTIONS(NSUInteger, NSEventModifierFlags){
 @interface NSEvent : NSObject <NSCopying>
 @property(readonly) NSPoint locationInWindow;
 @property(readonly) NSEventModifierFlags modifierFlags;
+// A scroll-wheel event's vertical delta: in points when hasPreciseScrollingDeltas, else in
+// lines.
+@property(readonly) CGFloat scrollingDeltaY VISTREL_MACOS(10.7);
+@property(readonly) BOOL hasPreciseScrollingDeltas VISTREL_MACOS(10.7);
 // Nil for events other than key events.
 @property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
 // Answers an opaque monitor object, or nil when the monitor could not be installed.

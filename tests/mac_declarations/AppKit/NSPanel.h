@@ -20,4 +20,5 @@
 - (void)mouseUp:(NSEvent*)event;
 - (void)mouseMoved:(NSEvent*)event;
 - (void)mouseExited:(NSEvent*)event;
+- (void)scrollWheel:(NSEvent*)event;
 @end

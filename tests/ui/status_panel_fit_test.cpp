@@ -1,0 +1,157 @@
+// The status panel never runs off the bottom of the screen: when its rows are taller than the
+// room below the menu bar, the saved layouts scroll and every other row stays in sight.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "layouts/layout_store.h"
+#include "settings/preference_key.h"
+#include "settings/shared.h"
+#include "status_menu_fixture.h"
+#include "ui/kit/dfkit_menu_row.h"
+#include "ui/kit/dfkit_scroll_view.h"
+
+namespace vistrel::testing {
+namespace {
+
+constexpr double smallMenuBar = 25;
+constexpr double dockHeight = 70;
+
+class StatusPanelFitTest : public StatusMenuTest {
+  protected:
+    void SetUp() override {
+        Shared::store()->set(std::string(PreferenceKey::layoutsEnabled), true);
+        StatusMenuTest::SetUp();
+        controller->reportProblem = [] {};
+        controller->updater =
+            StatusMenuController::Updater{[] {}, [] { return false; }, [](bool) {}};
+    }
+
+    // A 1280×800 display, as on a 13-inch MacBook Air at its default scale.
+    void smallDisplay() {
+        ScreenDescription& screen = desktop.screens().front();
+        screen.frame = {0, 0, 1280, 800};
+        screen.visibleFrame = {0, dockHeight, 1280, 800 - smallMenuBar - dockHeight};
+    }
+    void saveLayouts(int count) {
+        for (int i = 1; i <= count; ++i) {
+            LayoutStore::add(*Shared::store(),
+                             {{},
+                              "Layout " + std::to_string(i),
+                              {{"com.apple.Notes", "", "", {0, 0, 1, 1}, std::nullopt}},
+                              0});
+        }
+    }
+    // The crowded panel: ten layouts, the update row and the Accessibility button.
+    void openCrowded() {
+        smallDisplay();
+        desktop.trusted = false;
+        saveLayouts(10);
+        open();
+    }
+    DFKitScrollView* layouts() {
+        for (const auto& row : controller->panel()->content().rows()) {
+            if (auto* column = dynamic_cast<DFKitScrollView*>(row.get())) return column;
+        }
+        return nullptr;
+    }
+    std::vector<Rect> topRowFrames() {
+        std::vector<Rect> frames;
+        for (const auto& row : controller->panel()->content().rows())
+            frames.push_back(row->frame());
+        return frames;
+    }
+    Point inLayouts() { return layouts()->frameInRoot().mid(); }
+    Rect visible() { return desktop.screens().front().visibleFrame; }
+};
+
+TEST_F(StatusPanelFitTest, TenLayoutsTheUpdateRowAndTheAccessibilityButtonFitOnA1280By800Display) {
+    openCrowded();
+    const Rect frame = panel().frame();
+    EXPECT_GE(frame.minY(), visible().minY() + DFKitStatusPanel::screenGap - 1e-9);
+    EXPECT_DOUBLE_EQ(frame.maxY(), item().buttonFrame()->minY() - DFKitStatusPanel::screenGap);
+    ASSERT_NE(layouts(), nullptr);
+    EXPECT_LT(layouts()->frame().height, layouts()->contentHeight(DFKitPanelView::rowWidth));
+}
+
+TEST_F(StatusPanelFitTest, EveryRowButTheLayoutsStaysWholeInsideThePanel) {
+    openCrowded();
+    const Rect content = controller->panel()->content().bounds();
+    for (const Rect& frame : topRowFrames()) {
+        EXPECT_GE(frame.minY(), 0);
+        EXPECT_LE(frame.maxY(), content.maxY());
+    }
+    for (const std::string label :
+         {"Open System Settings…", "Save Current Layout", "Check for Updates…", "Quit Vistrel"}) {
+        const DFKitView* row = viewLabelled(label);
+        ASSERT_NE(row, nullptr) << label;
+        EXPECT_LE(row->frameInRoot().maxY(), content.maxY()) << label;
+    }
+}
+
+TEST_F(StatusPanelFitTest, TheWheelScrollsTheLayoutsAndNothingElseMoves) {
+    openCrowded();
+    const std::vector<Rect> before = topRowFrames();
+    const double firstRow = viewLabelled("Layout 1")->frameInRoot().y;
+    panel().scroll(inLayouts(), -30, true);
+    EXPECT_DOUBLE_EQ(layouts()->offset(), 30);
+    EXPECT_DOUBLE_EQ(viewLabelled("Layout 1")->frameInRoot().y, firstRow - 30);
+    EXPECT_EQ(topRowFrames(), before);
+}
+
+TEST_F(StatusPanelFitTest, AMouseThatScrollsByLinesMovesALinePerNotch) {
+    openCrowded();
+    panel().scroll(inLayouts(), -2, false);
+    EXPECT_DOUBLE_EQ(layouts()->offset(), 2 * DFKitStatusPanel::scrollLine);
+    panel().scroll(inLayouts(), 1, false);
+    EXPECT_DOUBLE_EQ(layouts()->offset(), DFKitStatusPanel::scrollLine);
+}
+
+TEST_F(StatusPanelFitTest, ScrollingStopsWithTheLastLayoutShownWhole) {
+    openCrowded();
+    panel().scroll(inLayouts(), -1000, true);
+    const Rect window = layouts()->frameInRoot();
+    EXPECT_DOUBLE_EQ(viewLabelled("Layout 9")->frameInRoot().maxY(), window.maxY());
+    panel().scroll(inLayouts(), 1000, true);
+    EXPECT_DOUBLE_EQ(layouts()->offset(), 0);
+}
+
+TEST_F(StatusPanelFitTest, ALayoutScrolledIntoSightRestoresOnAClick) {
+    openCrowded();
+    panel().scroll(inLayouts(), -1000, true);
+    clickLabelled("Layout 9");
+    EXPECT_EQ(desktop.systemLog().count("layouts: restoring \"Layout 9\" from the menu"), 1u);
+}
+
+TEST_F(StatusPanelFitTest, ALayoutScrolledOutOfSightTakesNoClick) {
+    openCrowded();
+    panel().scroll(inLayouts(), -1000, true);
+    clickLabelled("Layout 1");
+    EXPECT_EQ(desktop.systemLog().count("layouts: restoring \"Layout 1\" from the menu"), 0u);
+}
+
+TEST_F(StatusPanelFitTest, TheKnobShowsHowMuchThereIsAndWhereTheWindowStands) {
+    openCrowded();
+    const auto top = layouts()->knob();
+    ASSERT_TRUE(top);
+    panel().scroll(inLayouts(), -1000, true);
+    const auto bottom = layouts()->knob();
+    ASSERT_TRUE(bottom);
+    EXPECT_DOUBLE_EQ(top->minY(), DFKitScrollView::knobInset);
+    EXPECT_DOUBLE_EQ(bottom->maxY(), layouts()->bounds().height - DFKitScrollView::knobInset);
+    EXPECT_LT(top->height, layouts()->bounds().height);
+}
+
+TEST_F(StatusPanelFitTest, APanelWithRoomForEveryRowDoesNotScroll) {
+    saveLayouts(3);
+    open();
+    ASSERT_NE(layouts(), nullptr);
+    EXPECT_DOUBLE_EQ(layouts()->frame().height, layouts()->contentHeight(DFKitPanelView::rowWidth));
+    panel().scroll(inLayouts(), -30, true);
+    EXPECT_DOUBLE_EQ(layouts()->offset(), 0);
+    EXPECT_FALSE(layouts()->knob());
+}
+
+}  // namespace
+}  // namespace vistrel::testing
