@@ -23,6 +23,10 @@ find_package(Threads REQUIRED)
 find_package(nlohmann_json 3.10 QUIET)
 vistrel_require(nlohmann_json_FOUND "nlohmann/json" nlohmann-json3-dev nlohmann-json)
 
+# Compresses the application icon's pictures; macOS has it in its SDK.
+find_package(ZLIB QUIET)
+vistrel_require(ZLIB_FOUND "zlib" zlib1g-dev zlib)
+
 # The tests, the simulator and the benchmarks; an app-only build needs none of them.
 if(NOT VISTREL_APP_ONLY)
   find_package(GTest QUIET)

@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(cmake make g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev
           nlohmann-json3-dev libcairo2-dev libfreetype-dev libzip-dev libcurl4-openssl-dev
-          libcpp-httplib-dev clang clang-format)
+          libcpp-httplib-dev zlib1g-dev clang clang-format)
 
 if [[ "$(uname)" == "Darwin" ]]; then
   for formula in cmake pkg-config googletest google-benchmark nlohmann-json cairo freetype libzip \
