@@ -1,6 +1,5 @@
 #include "layouts/layout_undo.h"
 
-#include <cstdint>
 #include <memory>
 
 #include "platform/platform.h"
@@ -25,14 +24,7 @@ std::string LayoutUndo::Outcome::message() const {
 }
 
 LayoutUndo& LayoutUndo::shared() {
-    // Made anew when a different platform is installed (tests install one per case).
-    static std::unique_ptr<LayoutUndo> instance;
-    static std::uint64_t generation = 0;
-    if (!instance || generation != platformGeneration()) {
-        instance = std::make_unique<LayoutUndo>();
-        generation = platformGeneration();
-    }
-    return *instance;
+    return perPlatform<LayoutUndo>([] { return std::make_unique<LayoutUndo>(); });
 }
 
 void LayoutUndo::keep(Record record) {

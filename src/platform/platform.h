@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "platform/accessibility.h"
 #include "platform/agent_application.h"
@@ -83,5 +84,18 @@ Platform& platform();
 // from the platform compare platformGeneration() to know when to make it again.
 void installPlatform(Platform* platform);
 std::uint64_t platformGeneration();
+
+// The one T of the installed platform, made by `make` on first use and made anew when another
+// platform is installed (tests install one per case). Main thread only.
+template <typename T, typename Make>
+T& perPlatform(Make make) {
+    static std::unique_ptr<T> instance;
+    static std::uint64_t generation = 0;
+    if (!instance || generation != platformGeneration()) {
+        instance = make();
+        generation = platformGeneration();
+    }
+    return *instance;
+}
 
 }  // namespace vistrel

@@ -22,14 +22,7 @@ std::string key(std::string_view k) {
 }  // namespace
 
 Settings& Settings::shared() {
-    // Made anew when a different platform is installed (tests install one per case).
-    static std::unique_ptr<Settings> instance;
-    static std::uint64_t generation = 0;
-    if (!instance || generation != platformGeneration()) {
-        instance = std::make_unique<Settings>(Shared::store());
-        generation = platformGeneration();
-    }
-    return *instance;
+    return perPlatform<Settings>([] { return std::make_unique<Settings>(Shared::store()); });
 }
 
 Settings::Settings(std::shared_ptr<DefaultsStore> store) : d_(std::move(store)) {}

@@ -1,6 +1,5 @@
 #include "tracking/health.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -12,14 +11,7 @@
 namespace vistrel {
 
 Health& Health::shared() {
-    // Made anew when a different platform is installed (tests install one per case).
-    static std::unique_ptr<Health> instance;
-    static std::uint64_t generation = 0;
-    if (!instance || generation != platformGeneration()) {
-        instance = std::make_unique<Health>();
-        generation = platformGeneration();
-    }
-    return *instance;
+    return perPlatform<Health>([] { return std::make_unique<Health>(); });
 }
 
 Health::Problem Health::problem() const {

@@ -10,6 +10,7 @@
 #include "report_test.h"
 #include "sim/sim_scene.h"
 #include "tracking/health.h"
+#include "tracking/mission_control_capture.h"
 #include "zip_entries.h"
 
 namespace vistrel {
@@ -98,6 +99,10 @@ TEST_F(CaptureReportTest, ASecondRequestWhileOneWaitsAsksNothing) {
     CaptureReport::start();
     CaptureReport::start();
     EXPECT_EQ(desktop.alert().shown.size(), 1u);
+    // The one capture waits its minute out and ends.
+    desktop.executor().advance(MissionControlCapture::waitLimit + 1);
+    desktop.executor().runUntilIdle();
+    EXPECT_FALSE(Health::shared().captureWaiting());
 }
 
 }  // namespace
