@@ -78,10 +78,13 @@ class StatusPanelFitTest : public StatusMenuTest {
         }
         return false;
     }
+    // Whole inside the layouts' window, and clear of a fade at either edge.
     bool inLayoutsWindow(const std::string& label) {
         const Rect row = viewLabelled(label)->frameInRoot();
         const Rect window = layouts()->frameInRoot();
-        return row.minY() >= window.minY() && row.maxY() <= window.maxY();
+        const double fade = DFKitScrollView::fadeHeight;
+        return row.minY() >= window.minY() + (layouts()->hidesAbove() ? fade : 0) &&
+               row.maxY() <= window.maxY() - (layouts()->hidesBelow() ? fade : 0);
     }
     Rect visible() { return desktop.screens().front().visibleFrame; }
 };
