@@ -19,9 +19,6 @@ namespace {
 
 constexpr double smallMenuBar = 25;
 constexpr double dockHeight = 70;
-// kVK_DownArrow and kVK_UpArrow.
-constexpr std::int64_t downArrow = 125;
-constexpr std::int64_t upArrow = 126;
 // More than the panel has rows that take a click.
 constexpr int maxPresses = 40;
 
@@ -71,7 +68,7 @@ class StatusPanelFitTest : public StatusMenuTest {
     }
     Point inLayouts() { return layouts()->frameInRoot().mid(); }
     // Presses the down arrow until the view labelled so is highlighted; false if it never is.
-    bool arrowTo(const std::string& label, std::int64_t key = downArrow) {
+    bool arrowTo(const std::string& label, std::int64_t key = KeyCode::downArrow) {
         for (int press = 0; press < maxPresses; ++press) {
             if (controller->panel()->highlighted() == viewLabelled(label)) return true;
             panel().pressKey(key);
@@ -207,7 +204,7 @@ TEST_F(StatusPanelFitTest, MovingDownWithTheArrowKeysKeepsEachSelectedLayoutInSi
 TEST_F(StatusPanelFitTest, MovingBackUpWithTheArrowKeysBringsTheFirstLayoutBackIntoSight) {
     openCrowded();
     ASSERT_TRUE(arrowTo("Save Current Layout"));
-    ASSERT_TRUE(arrowTo("Layout 1", upArrow));
+    ASSERT_TRUE(arrowTo("Layout 1", KeyCode::upArrow));
     EXPECT_TRUE(inLayoutsWindow("Layout 1"));
     EXPECT_DOUBLE_EQ(layouts()->offset(), 0);
 }
@@ -221,10 +218,10 @@ TEST_F(StatusPanelFitTest, ReturnRestoresTheLayoutSelectedWithTheArrowKeys) {
 
 TEST_F(StatusPanelFitTest, TheArrowKeysStartAtTheFirstRowThatTakesAClickAndStopAtTheLast) {
     open();
-    EXPECT_TRUE(panel().pressKey(downArrow));
+    EXPECT_TRUE(panel().pressKey(KeyCode::downArrow));
     EXPECT_EQ(controller->panel()->highlighted(), viewLabelled("More options"));
     for (int press = 0; press < maxPresses; ++press)
-        panel().pressKey(downArrow);
+        panel().pressKey(KeyCode::downArrow);
     EXPECT_EQ(controller->panel()->highlighted(), viewLabelled("Quit Vistrel"));
 }
 
@@ -232,7 +229,7 @@ TEST_F(StatusPanelFitTest, KeysThePanelDoesNotUseGoOnToTheWindow) {
     open();
     constexpr std::int64_t letterA = 0;
     EXPECT_FALSE(panel().pressKey(KeyCode::returnKey)) << "nothing is highlighted";
-    EXPECT_FALSE(panel().pressKey(downArrow, ModifierFlag::command));
+    EXPECT_FALSE(panel().pressKey(KeyCode::downArrow, ModifierFlag::command));
     EXPECT_FALSE(panel().pressKey(letterA));
     EXPECT_EQ(controller->panel()->highlighted(), nullptr);
 }

@@ -1,6 +1,9 @@
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
@@ -19,11 +22,13 @@ namespace {
 // A 13-inch MacBook Air at its default scale, the Dock along the bottom.
 constexpr Rect smallDisplay{0, 0, 1280, 800};
 constexpr double dockHeight = 70;
-constexpr int savedLayouts = 10;
+// Ten layouts a user might keep; the panel lists the first nine.
+constexpr std::array<std::string_view, 10> layoutNames = {
+    "Morning mail", "Writing", "Code review", "Research",     "Design",
+    "Standup",      "Reading", "Budget",      "Travel plans", "Everything"};
+constexpr std::string_view lastListed = "Travel plans";
 // A two-finger swipe up on the trackpad, in points.
 constexpr double trackpadSwipe = -40;
-// kVK_DownArrow.
-constexpr std::int64_t downArrowKey = 125;
 // More than the panel has rows that take a click.
 constexpr int maxPresses = 40;
 
@@ -39,27 +44,27 @@ class CrowdedPanelSession {
                                smallDisplay.height - simMenuBarHeight - dockHeight};
         rig_.desktop().trusted = false;
         Shared::store()->set(std::string(PreferenceKey::layoutsEnabled), true);
-        for (int i = 1; i <= savedLayouts; ++i) {
-            LayoutStore::add(*Shared::store(),
-                             {{},
-                              "Layout " + std::to_string(i),
-                              {{"com.apple.Notes", "", "", {0, 0, 1, 1}, std::nullopt}},
-                              0});
-        }
+        // Safari on the left half, Notes on the right.
+        const std::vector<SavedLayout::Window> halves = {
+            {"com.apple.Safari", "Safari", "", {0, 0, 0.5, 1}, std::nullopt},
+            {"com.apple.Notes", "Notes", "", {0.5, 0, 0.5, 1}, std::nullopt}};
+        for (std::string_view name : layoutNames)
+            LayoutStore::add(*Shared::store(), {{}, std::string(name), halves, 0});
         menu_ = StatusMenuController::make();
         menu_->updater = StatusMenuController::Updater{[] {}, [] { return false; }, [](bool) {}};
     }
 
     int play() {
-        return rig_.play("the status panel on a 1280×800 display with ten saved layouts",
-                         {{"open", "click the status item: the panel stops above the Dock",
-                           [this] { return open(); }},
-                          {"scrolled", "swipe up over the layouts: they scroll, nothing else moves",
-                           [this] { return scroll(); }},
-                          {"arrow-keys", "press the down arrow to Layout 9: it scrolls into sight",
-                           [this] { return arrowDown("Layout 9"); }},
-                          {"dark", "the same in the dark appearance", [this] { return dark(); }}},
-                         [] { return std::optional<SimWindowId>(); });
+        return rig_.play(
+            "the status panel on a 1280×800 display with ten saved layouts",
+            {{"open", "click the status item: the panel stops above the Dock",
+              [this] { return open(); }},
+             {"scrolled", "swipe up over the layouts: they scroll, nothing else moves",
+              [this] { return scroll(); }},
+             {"arrow-keys", "press the down arrow to the last layout listed: it scrolls into sight",
+              [this] { return arrowDown(std::string(lastListed)); }},
+             {"dark", "the same in the dark appearance", [this] { return dark(); }}},
+            [] { return std::optional<SimWindowId>(); });
     }
 
   private:
@@ -104,7 +109,7 @@ class CrowdedPanelSession {
                 const std::optional<AccessibilityNode> node = highlighted->accessibilityNode();
                 if (node && node->label == label) return report();
             }
-            rig_.statusPanel()->pressKey(downArrowKey);
+            rig_.statusPanel()->pressKey(KeyCode::downArrow);
         }
         return rig_.fail("the arrow keys never reached " + label);
     }

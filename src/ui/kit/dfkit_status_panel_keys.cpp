@@ -11,12 +11,6 @@ namespace vistrel {
 
 namespace {
 
-// macOS virtual key codes (kVK_DownArrow, kVK_UpArrow, kVK_ANSI_KeypadEnter, kVK_Space).
-constexpr std::int64_t downArrowKey = 125;
-constexpr std::int64_t upArrowKey = 126;
-constexpr std::int64_t keypadEnterKey = 76;
-constexpr std::int64_t spaceKey = 49;
-
 // The views the highlight stops at, in the order they are drawn: those that take a click.
 void collectControls(const DFKitView& view, std::vector<DFKitView*>& controls) {
     for (DFKitView* child : view.subviews()) {
@@ -37,15 +31,15 @@ void reveal(const DFKitView& view) {
 bool DFKitStatusPanel::keyDown(std::int64_t keyCode, std::uint64_t modifierFlags) {
     if (!isVisible() || (modifierFlags & ModifierFlag::relevant) != 0) return false;
     switch (keyCode) {
-        case downArrowKey:
+        case KeyCode::downArrow:
             moveHighlight(1);
             return true;
-        case upArrowKey:
+        case KeyCode::upArrow:
             moveHighlight(-1);
             return true;
         case KeyCode::returnKey:
-        case keypadEnterKey:
-        case spaceKey:
+        case KeyCode::keypadEnter:
+        case KeyCode::space:
             if (auto* control = dynamic_cast<DFKitControl*>(hovered_)) {
                 control->perform();
                 return true;
