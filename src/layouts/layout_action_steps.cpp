@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/log.h"
+#include "layouts/display_match.h"
 #include "layouts/layout_match.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"
@@ -120,15 +121,23 @@ std::optional<SavedLayout::Window> record(const LayoutActions::Placement& placem
         placement.rect, displayOf(screen)};
 }
 
+// Keeps how a window is before it moves.
+void remember(Before& before, const WindowRef& window) {
+    for (LayoutUndo::Window& read : LayoutUndo::read({window}))
+        before.push_back(std::move(read));
+}
+
 }  // namespace
 
-std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows) {
+std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows,
+                                    const std::vector<ScreenInfo>& screens) {
     if (windows.empty()) return std::nullopt;
     std::vector<std::string> names;
     for (const SavedLayout::Window& window : windows)
         names.push_back(window.app);
     return SavedLayout{UUID::random(), SavedLayout::autoName(names), std::move(windows),
-                       SavedLayout::dateSinceReference(platform().clock.now())};
+                       SavedLayout::dateSinceReference(platform().clock.now()),
+                       DisplayMatch::displaysOf(screens)};
 }
 
 std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap) {
@@ -139,10 +148,10 @@ std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, doubl
         captured.push_back({window.bundleID, window.app, window.title,
                             capturedRect(window.frame, screen->visible, gap), displayOf(*screen)});
     }
-    return layoutOf(std::move(captured));
+    return layoutOf(std::move(captured), screens);
 }
 
-std::vector<WindowRef> restore(const RestoreRequest& request) {
+std::vector<WindowRef> restore(const RestoreRequest& request, Before& before) {
     const std::vector<SavedLayout::Window>& saved = request.layout.windows;
     const std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
     const auto pairing = LayoutMatch::pair(saved, matchKeys(open));
@@ -152,6 +161,7 @@ std::vector<WindowRef> restore(const RestoreRequest& request) {
         const ScreenInfo* screen = targetScreen(saved[i].display, request.screens);
         if (screen == nullptr) continue;
         const OpenWindow& partner = open[*pairing[i]];
+        remember(before, partner.ref);
         if (place(partner, saved[i].rect, *screen, request.gap)) moved.push_back(partner.ref);
     }
     Log::info("layouts: restored \"" + request.layout.name + "\", " + std::to_string(moved.size()) +
@@ -160,11 +170,12 @@ std::vector<WindowRef> restore(const RestoreRequest& request) {
 }
 
 Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
-                 double gap) {
+                 double gap, Before& before) {
     Arranged arranged;
     for (const LayoutActions::Placement& placement : placements) {
         const WindowRef& ref = placement.ref;
         if (WindowMover::isFullScreen(ref.element)) continue;
+        remember(before, ref);
         if (WindowMover::setFrame(ref.pid, ref.element,
                                   placement.rect.frame(screen.visible, gap))) {
             arranged.moved.push_back(ref);
@@ -176,7 +187,8 @@ Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const 
 }
 
 std::optional<LayoutActions::Snapped> snap(const WindowRef& window, SnapKey key,
-                                           const std::vector<ScreenInfo>& screens, double gap) {
+                                           const std::vector<ScreenInfo>& screens, double gap,
+                                           Before& before) {
     if (WindowMover::isFullScreen(window.element)) {
         Log::info("layouts: not snapping a full-screen window " + pidText(window.pid));
         return std::nullopt;
@@ -196,6 +208,7 @@ std::optional<LayoutActions::Snapped> snap(const WindowRef& window, SnapKey key,
     const Rect area = screen->visible;
     const UnitRect target = Snap::next(UnitRect::of(*frame, area, gap), key);
     const Rect targetFrame = target.frame(area, gap);
+    before.push_back({window, *frame, false});
     const bool moved = WindowMover::setFrame(window.pid, window.element, targetFrame);
     Log::info(std::string("layouts: ") + (moved ? "did" : "FAILED to") + " snap window " +
               pidText(window.pid) + " to " + lowerCase(Snap::name(target)));

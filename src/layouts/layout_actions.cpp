@@ -31,6 +31,14 @@ void complete(const std::function<void(Result)>& done, Result result) {
     platform().executor.main().async([done, result = std::move(result)] { done(result); });
 }
 
+// Keeps on the main thread how the windows were before the step moved them, ahead of the
+// step's completion, so that the completion already finds it.
+void keepUndo(LayoutActionSteps::Before before) {
+    platform().executor.main().async([before = std::move(before)]() mutable {
+        LayoutUndo::shared().keep({std::move(before), platform().clock.now()});
+    });
+}
+
 void postEscape() {
     WindowServer& server = platform().windowServer;
     server.postKey(LayoutActions::escapeKeyCode, true);
@@ -68,7 +76,9 @@ void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
     LayoutActionSteps::RestoreRequest request{layout, Screens::snapshot(), gap(),
                                               Settings::shared().layoutsLaunchApps()};
     work([request = std::move(request), done = std::move(done)] {
-        std::vector<WindowRef> moved = LayoutActionSteps::restore(request);
+        LayoutActionSteps::Before before;
+        std::vector<WindowRef> moved = LayoutActionSteps::restore(request, before);
+        keepUndo(std::move(before));
         // With nothing moved Mission Control stays open, to say why.
         if (!moved.empty()) leaveMissionControl(moved);
         complete(done, std::move(moved));
@@ -77,16 +87,37 @@ void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
 
 void LayoutActions::arrange(std::vector<Placement> placements, const ScreenInfo& screen,
                             ArrangeDone done) {
-    work([placements = std::move(placements), screen, gap = gap(), done = std::move(done)] {
-        LayoutActionSteps::Arranged arranged = LayoutActionSteps::arrange(placements, screen, gap);
+    work([placements = std::move(placements), screen, screens = Screens::snapshot(), gap = gap(),
+          done = std::move(done)] {
+        LayoutActionSteps::Before before;
+        LayoutActionSteps::Arranged arranged =
+            LayoutActionSteps::arrange(placements, screen, gap, before);
+        keepUndo(std::move(before));
         if (!arranged.moved.empty()) leaveMissionControl(std::move(arranged.moved));
-        complete(done, LayoutActionSteps::layoutOf(std::move(arranged.windows)));
+        complete(done, LayoutActionSteps::layoutOf(std::move(arranged.windows), screens));
     });
 }
 
 void LayoutActions::snap(const WindowRef& window, SnapKey key, SnapDone done) {
     work([window, key, screens = Screens::snapshot(), gap = gap(), done = std::move(done)] {
-        complete(done, LayoutActionSteps::snap(window, key, screens, gap));
+        LayoutActionSteps::Before before;
+        auto snapped = LayoutActionSteps::snap(window, key, screens, gap, before);
+        keepUndo(std::move(before));
+        complete(done, std::move(snapped));
+    });
+}
+
+void LayoutActions::undo(UndoDone done) {
+    std::optional<LayoutUndo::Record> record = LayoutUndo::shared().take();
+    if (!record) {
+        complete(done, std::optional<LayoutUndo::Outcome>());
+        return;
+    }
+    work([record = std::move(*record), done = std::move(done)] {
+        LayoutUndo::Outcome outcome = LayoutUndo::putBack(record);
+        Log::info("layouts: undid the last change, " + std::to_string(outcome.moved.size()) +
+                  " windows back, " + std::to_string(outcome.closed) + " closed since");
+        complete(done, std::optional(std::move(outcome)));
     });
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "layouts/layout_undo.h"
 #include "layouts/saved_layout.h"
 #include "layouts/snap.h"
 #include "layouts/unit_rect.h"
@@ -36,6 +37,7 @@ struct LayoutActions {
     using RestoreDone = std::function<void(std::vector<WindowRef>)>;
     using ArrangeDone = std::function<void(std::optional<SavedLayout>)>;
     using SnapDone = std::function<void(std::optional<Snapped>)>;
+    using UndoDone = std::function<void(std::optional<LayoutUndo::Outcome>)>;
 
     // Mission Control gets this long to close after Escape before the windows are raised;
     // it is checked again after the longer pause and sent Escape once more if still open.
@@ -54,6 +56,10 @@ struct LayoutActions {
                         ArrangeDone done);
     // Moves the window where the key sends it; none when nothing moved.
     static void snap(const WindowRef& window, SnapKey key, SnapDone done);
+
+    // Puts back the windows the last restore, arrangement or snap moved, when it is less than
+    // ten minutes old; completes with what it did, nothing when there was nothing to undo.
+    static void undo(UndoDone done);
 
     // Closes Mission Control with Escape and raises the windows, the first in front. Runs
     // on the layouts queue.

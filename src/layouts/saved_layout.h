@@ -7,6 +7,7 @@
 
 #include "layouts/unit_rect.h"
 #include "layouts/uuid.h"
+#include "platform/geometry.h"
 
 namespace vistrel {
 
@@ -24,6 +25,15 @@ struct SavedLayout {
         friend bool operator==(const Window&, const Window&) = default;
     };
 
+    // A display connected when the layout was saved: the display's identifier (its UUID
+    // text) and its frame in the arrangement, in accessibility coordinates.
+    struct Display {
+        std::string id;
+        Rect frame;
+
+        friend bool operator==(const Display&, const Display&) = default;
+    };
+
     // The name of a layout that has none: no application names, or none stored.
     static constexpr std::string_view defaultName = "Layout";
     // Seconds from 1970-01-01 to 2001-01-01 00:00:00 UTC, the reference date of `created`.
@@ -33,6 +43,9 @@ struct SavedLayout {
     std::string name;
     std::vector<Window> windows;
     double created = 0;  // seconds since the reference date
+    // The displays connected when it was saved, ordered by identifier; none for a layout
+    // saved before layouts remembered them.
+    std::vector<Display> displays = {};
 
     // A clock reading (seconds since 1970) as seconds since the reference date.
     static double dateSinceReference(double secondsSince1970) {

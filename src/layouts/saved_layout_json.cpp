@@ -18,6 +18,8 @@ constexpr char windows[] = "windows";
 constexpr char app[] = "app";
 constexpr char bundleID[] = "bundleID";
 constexpr char display[] = "display";
+constexpr char displays[] = "displays";
+constexpr char frame[] = "frame";
 constexpr char rect[] = "rect";
 constexpr char title[] = "title";
 constexpr char x[] = "x";
@@ -32,10 +34,18 @@ bool isFinite(const UnitRect& r) {
     return std::isfinite(r.x) && std::isfinite(r.y) && std::isfinite(r.w) && std::isfinite(r.h);
 }
 
+// A display's frame is written as a rect of points.
+UnitRect asRect(Rect frame) {
+    return {frame.x, frame.y, frame.width, frame.height};
+}
+
 bool isEncodable(const SavedLayout& layout) {
     if (!std::isfinite(layout.created)) return false;
     for (const auto& window : layout.windows) {
         if (!isFinite(window.rect)) return false;
+    }
+    for (const auto& display : layout.displays) {
+        if (!isFinite(asRect(display.frame))) return false;
     }
     return true;
 }
@@ -57,10 +67,16 @@ json toJSON(const SavedLayout& layout) {
     json windows = json::array();
     for (const auto& window : layout.windows)
         windows.push_back(toJSON(window));
-    return {{Key::created, layout.created},
-            {Key::id, layout.id.string()},
-            {Key::name, layout.name},
-            {Key::windows, std::move(windows)}};
+    json object{{Key::created, layout.created},
+                {Key::id, layout.id.string()},
+                {Key::name, layout.name},
+                {Key::windows, std::move(windows)}};
+    if (layout.displays.empty()) return object;
+    json displays = json::array();
+    for (const auto& display : layout.displays)
+        displays.push_back({{Key::frame, toJSON(asRect(display.frame))}, {Key::id, display.id}});
+    object[Key::displays] = std::move(displays);
+    return object;
 }
 
 // Decoding. ------------------------------------------------------------------------------
@@ -134,6 +150,29 @@ std::optional<std::vector<SavedLayout::Window>> windowsFrom(const json* value) {
     return windows;
 }
 
+std::optional<SavedLayout::Display> displayFrom(const json& value) {
+    if (!value.is_object()) return std::nullopt;
+    auto id = text(value, Key::id);
+    const json* frameValue = present(value, Key::frame);
+    if (!id || !frameValue) return std::nullopt;
+    const auto frame = rectFrom(*frameValue);
+    if (!frame) return std::nullopt;
+    return SavedLayout::Display{std::move(*id), {frame->x, frame->y, frame->w, frame->h}};
+}
+
+// A layout saved before layouts remembered their displays has none.
+std::optional<std::vector<SavedLayout::Display>> displaysFrom(const json* value) {
+    if (!value) return std::vector<SavedLayout::Display>{};
+    if (!value->is_array()) return std::nullopt;
+    std::vector<SavedLayout::Display> displays;
+    for (const auto& element : *value) {
+        auto display = displayFrom(element);
+        if (!display) return std::nullopt;
+        displays.push_back(std::move(*display));
+    }
+    return displays;
+}
+
 std::optional<UUID> idFrom(const json* value) {
     if (!value) return UUID::random();
     if (!value->is_string()) return std::nullopt;
@@ -157,8 +196,9 @@ std::optional<SavedLayout> layoutFrom(const json& value, double now) {
     auto name = nameFrom(present(value, Key::name));
     auto windows = windowsFrom(present(value, Key::windows));
     const auto created = createdFrom(present(value, Key::created), now);
-    if (!id || !name || !windows || !created) return std::nullopt;
-    return SavedLayout{*id, std::move(*name), std::move(*windows), *created};
+    auto displays = displaysFrom(present(value, Key::displays));
+    if (!id || !name || !windows || !created || !displays) return std::nullopt;
+    return SavedLayout{*id, std::move(*name), std::move(*windows), *created, std::move(*displays)};
 }
 
 }  // namespace

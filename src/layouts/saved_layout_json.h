@@ -11,11 +11,13 @@ namespace vistrel {
 
 // The persisted form of saved layouts: a JSON array of layout objects, keys sorted, no
 // pretty printing, UTF-8. Layout keys "created" (seconds since 2001-01-01 UTC), "id"
-// (upper-case hyphenated UUID), "name", "windows"; window keys "app", "bundleID", "display"
+// (upper-case hyphenated UUID), "name", "windows", "displays" (left out when none: each "id"
+// and "frame", a rect of points); window keys "app", "bundleID", "display"
 // (left out when unknown), "rect", "title"; rect keys "h", "w", "x", "y".
 //
 // Reading is lenient only where a missing (or null) key has a meaning: no "id" makes a fresh
-// UUID, no "name" reads "Layout", no "created" reads `now`, no "display" reads none. Anything
+// UUID, no "name" reads "Layout", no "created" reads `now`, no "display" reads none, no
+// "displays" reads none (a file written before layouts remembered their displays). Anything
 // else that is missing or of the wrong type makes the whole text unreadable. Unknown keys
 // are ignored.
 struct SavedLayoutJSON {

@@ -17,6 +17,7 @@ constexpr std::uint64_t consideredFlags = shiftFlag | controlFlag | optionFlag |
 
 // Virtual key codes.
 constexpr std::int64_t leftArrowKey = 123;
+constexpr std::int64_t undoKey = 6;  // Z
 constexpr std::int64_t rightArrowKey = 124;
 constexpr std::int64_t downArrowKey = 125;
 constexpr std::int64_t upArrowKey = 126;
@@ -159,6 +160,10 @@ std::optional<int> Snap::layoutIndex(std::int64_t keyCode, std::uint64_t flags) 
         if (digitKeys[i] == keyCode) return static_cast<int>(i);
     }
     return std::nullopt;
+}
+
+bool Snap::isUndo(std::int64_t keyCode, std::uint64_t flags) {
+    return keyCode == undoKey && commandOnly(flags);
 }
 
 Snap::Spans Snap::spans(const UnitRect& rect) {

@@ -56,6 +56,8 @@ struct Snap {
     static std::optional<SnapKey> match(std::int64_t keyCode, std::uint64_t flags);
     // 0 for Command-1 up to 8 for Command-9, under the same modifier rule.
     static std::optional<int> layoutIndex(std::int64_t keyCode, std::uint64_t flags);
+    // Command-Z, Command alone: undo the last restore, arrangement or snap.
+    static bool isUndo(std::int64_t keyCode, std::uint64_t flags);
     static Spans spans(const UnitRect& rect);
     // Where `key` puts a window now at `from`: repeated left or right presses cycle through
     // a half, two thirds and a third; up and down halve, then restore, the height.

@@ -57,6 +57,11 @@ class EngineLayouts {
     // Stores the Option state and redraws the shelf when one is shown.
     virtual void setOptionHeld(bool held) = 0;
 
+    // A restore, arrangement or snap of the last ten minutes can be undone.
+    virtual bool canUndo() const = 0;
+    // Puts its windows back and says how it went.
+    virtual void undo() = 0;
+
     virtual std::size_t savedCount() const = 0;
     virtual void restore(std::size_t index) = 0;
     // Snaps a window with a snap key and reports where it went.

@@ -285,6 +285,19 @@ bool LayoutsController::keep(const SavedLayout& layout) {
     return false;
 }
 
+bool LayoutsController::canUndo() const {
+    return LayoutUndo::shared().available();
+}
+
+void LayoutsController::undo() {
+    LayoutActions::undo([alive = alive()](std::optional<LayoutUndo::Outcome> outcome) {
+        auto self = alive.lock();
+        if (!self || !outcome) return;
+        (*self)->toastMessage(outcome->message(), std::nullopt);
+        (*self)->windowsMoved();
+    });
+}
+
 void LayoutsController::restore(std::size_t index) {
     if (!open_ || index >= saved_.size()) return;
     restoreLayout(index);

@@ -70,6 +70,8 @@ class LayoutsController : public EngineLayouts {
     bool optionHeld() const override { return optionHeld_; }
     void setOptionHeld(bool held) override;
 
+    bool canUndo() const override;
+    void undo() override;
     std::size_t savedCount() const override { return saved_.size(); }
     void restore(std::size_t index) override;
     void snap(const AXElement& window, Pid pid, SnapKey key) override;

@@ -73,6 +73,14 @@ TEST_F(LayoutActionsCaptureTest, EachWindowKeepsItsFractionsOfTheVisibleFrameAnd
         EXPECT_EQ(window.display, screenID) << window.title;
 }
 
+TEST_F(LayoutActionsCaptureTest, TheLayoutRemembersTheDisplaysConnectedWhenItWasSaved) {
+    const auto layout = capture();
+    ASSERT_TRUE(layout.has_value());
+    ASSERT_EQ(layout->displays.size(), 1u);
+    EXPECT_EQ(layout->displays.front().id, screenID);
+    EXPECT_EQ(layout->displays.front().frame, (Rect{0, 0, 1440, 900}));
+}
+
 TEST_F(LayoutActionsCaptureTest, TheGapIsAddedBackAroundEachWindow) {
     setGap(10);
 

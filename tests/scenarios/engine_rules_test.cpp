@@ -111,10 +111,15 @@ TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBa
             desktop.executor().advanceMain(MissionControlDetector::openInterval);
             desktop.dock().open();
             desktop.executor().advanceMain(MissionControlDetector::closedInterval);
+            // The detector reads the Dock on its own queue, then tells the engine it opened.
+            desktop.executor().queue(std::string(MissionControlDetector::queueLabel))->runOne();
+            desktop.executor().mainQueue().drain();
             hover->runOne();
             desktop.executor().mainQueue().drain();
             layouts.claimsPointer = true;
             desktop.eventTap().deliver(SimInput::mouseMoved(point));
+            // The move is handled on its own turn of the main queue, still claimed.
+            desktop.executor().mainQueue().drain();
             layouts.claimsPointer = false;
         }
         return dockHitTest(at);
@@ -124,6 +129,7 @@ TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBa
     ASSERT_TRUE(staged);
     ASSERT_TRUE(engine->active());
     ASSERT_FALSE(engine->thumbs().empty());
+    ASSERT_EQ(engine->lastReading().host, MissionControlHost::dock) << "the new opening was read";
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
@@ -209,8 +215,12 @@ TEST_F(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAn
 
 TEST_F(EngineRulesTest, ResultForAPointThePointerHasLeftIsDropped) {
     openMissionControl();
+    // Each move gets its turn of the main queue, so the first one's look-up is under way on
+    // the hover queue when the pointer leaves.
     desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Notes"))));
+    desktop.executor().mainQueue().runOne();
     desktop.eventTap().deliver(SimInput::mouseMoved(overNoThumbnail));
+    desktop.executor().mainQueue().runOne();
     settle();
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());

@@ -34,6 +34,8 @@ class FakeEngineLayouts : public EngineLayouts {
     bool optionHeld() const override { return false; }
     void setOptionHeld(bool) override {}
 
+    bool canUndo() const override { return false; }
+    void undo() override {}
     std::size_t savedCount() const override { return 0; }
     void restore(std::size_t) override {}
     void snap(const AXElement&, Pid, SnapKey) override {}

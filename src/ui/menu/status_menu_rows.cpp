@@ -161,6 +161,10 @@ DFKitViews StatusMenuController::layoutRows() {
                                            layout->name + "\" from the menu");
                              });
                          }));
+    if (LayoutUndo::shared().available()) {
+        append<DFKitMenuRow>(rows, DFKitGlyph::undo, "Undo Layout", std::nullopt,
+                             rowAction([](StatusMenuController&) { LayoutActions::undo({}); }));
+    }
     return rows;
 }
 
