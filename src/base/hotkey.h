@@ -25,6 +25,10 @@ inline constexpr std::int64_t w = 13;
 inline constexpr std::int64_t m = 46;
 inline constexpr std::int64_t returnKey = 36;
 inline constexpr std::int64_t escape = 53;
+inline constexpr std::int64_t space = 49;
+inline constexpr std::int64_t keypadEnter = 76;
+inline constexpr std::int64_t downArrow = 125;
+inline constexpr std::int64_t upArrow = 126;
 }  // namespace KeyCode
 
 // The seven shortcuts that act on the hovered window. The raw values are stable: they

@@ -122,6 +122,15 @@
     if (self.panelView.events.escape) self.panelView.events.escape();
 }
 
+// No view of the panel takes the keyboard, so key-downs come to the panel itself.
+- (void)keyDown:(NSEvent*)event {
+    const auto& keyDown = self.panelView.events.keyDown;
+    if (keyDown &&
+        keyDown(event.keyCode, event.modifierFlags & NSEventModifierFlagDeviceIndependentFlagsMask))
+        return;
+    [super keyDown:event];
+}
+
 - (void)resignKeyWindow {
     [super resignKeyWindow];
     if (self.panelView.events.resignedKey) self.panelView.events.resignedKey();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -43,6 +44,11 @@ struct KeyPanelEvents {
     // scrolls to see what is above) and whether it counts points (a trackpad, a precise
     // mouse) rather than lines (hasPreciseScrollingDeltas).
     std::function<void(Point, double deltaY, bool precise)> scrolled;
+    // keyDown(with:) while the panel is key and none of its views takes the keyboard:
+    // NSEvent.keyCode and its modifierFlags (device-independent part). Answers whether the
+    // panel used the key; a key it leaves goes on to NSPanel's own keyDown(with:), so Escape
+    // still ends as cancelOperation(_:).
+    std::function<bool(std::int64_t keyCode, std::uint64_t modifierFlags)> keyDown;
     // cancelOperation(_:): Escape while the panel is key.
     std::function<void()> escape;
     // windowDidResignKey.

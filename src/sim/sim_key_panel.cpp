@@ -51,6 +51,10 @@ void SimKeyPanel::pressEscape() {
     if (key_ && events_.escape) events_.escape();
 }
 
+bool SimKeyPanel::pressKey(std::int64_t keyCode, std::uint64_t modifierFlags) {
+    return key_ && events_.keyDown && events_.keyDown(keyCode, modifierFlags);
+}
+
 void SimKeyPanel::resignKey() {
     if (!key_) return;
     key_ = false;

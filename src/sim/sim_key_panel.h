@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -40,6 +41,8 @@ class SimKeyPanel : public KeyPanel {
     // The wheel or the trackpad over the content, as NSEvent reports it.
     void scroll(Point point, double deltaY, bool precise);
     void pressEscape();
+    // A key pressed while the panel is key; answers whether the panel used it.
+    bool pressKey(std::int64_t keyCode, std::uint64_t modifierFlags = 0);
     // Another window takes the keyboard.
     void resignKey();
 

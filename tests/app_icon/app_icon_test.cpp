@@ -110,6 +110,27 @@ TEST(AppIconTest, TheMarkIsWhiteOnAnIndigoPlateWithClearCorners) {
     EXPECT_EQ(disc, (std::array<std::uint8_t, 4>{255, 255, 255, 255}));
 }
 
+TEST(AppIconTest, ThePlateCastsASoftShadowJustBelowIt) {
+    const Raster icon = AppIcon::render(1024);
+    const auto under = pixelAt(icon, 512, 930);
+    EXPECT_EQ(under[0] + under[1] + under[2], 0) << "black";
+    EXPECT_GT(under[3], 20);
+    EXPECT_LT(under[3], 100) << "faint";
+    EXPECT_EQ(pixelAt(icon, 512, 1000)[3], 0) << "gone before the canvas's edge";
+    EXPECT_EQ(pixelAt(icon, 512, 60)[3], 0) << "falls below, not above";
+}
+
+TEST(AppIconTest, IconsOfThirtyTwoPixelsAndLessHaveNoShadowToBlurThePlatesEdge) {
+    const Raster icon = AppIcon::render(32);
+    const Color indigo = DFKit::indigo.resolved(Appearance::light);
+    // The plate's bottom edge crosses the pixels of row 28: their own colour, not darkened by
+    // a shadow, and nothing under them.
+    const auto edge = pixelAt(icon, 16, 28);
+    EXPECT_GT(edge[3], 0);
+    EXPECT_NEAR(edge[2], std::lround(indigo.blue * 255), 1);
+    EXPECT_EQ(pixelAt(icon, 16, 29)[3], 0);
+}
+
 TEST(RasterTest, ARectangleOnWholePixelsCoversExactlyThem) {
     Raster raster(8);
     raster.fill(Path::rect({2, 2, 4, 4}), Color::white(), 1, {0, 0});

@@ -2,9 +2,11 @@
 // room below the menu bar, the saved layouts scroll and every other row stays in sight.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "base/hotkey.h"
 #include "layouts/layout_store.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
@@ -17,6 +19,8 @@ namespace {
 
 constexpr double smallMenuBar = 25;
 constexpr double dockHeight = 70;
+// More than the panel has rows that take a click.
+constexpr int maxPresses = 40;
 
 class StatusPanelFitTest : public StatusMenuTest {
   protected:
@@ -63,6 +67,22 @@ class StatusPanelFitTest : public StatusMenuTest {
         return frames;
     }
     Point inLayouts() { return layouts()->frameInRoot().mid(); }
+    // Presses the down arrow until the view labelled so is highlighted; false if it never is.
+    bool arrowTo(const std::string& label, std::int64_t key = KeyCode::downArrow) {
+        for (int press = 0; press < maxPresses; ++press) {
+            if (controller->panel()->highlighted() == viewLabelled(label)) return true;
+            panel().pressKey(key);
+        }
+        return false;
+    }
+    // Whole inside the layouts' window, and clear of a fade at either edge.
+    bool inLayoutsWindow(const std::string& label) {
+        const Rect row = viewLabelled(label)->frameInRoot();
+        const Rect window = layouts()->frameInRoot();
+        const double fade = DFKitScrollView::fadeHeight;
+        return row.minY() >= window.minY() + (layouts()->hidesAbove() ? fade : 0) &&
+               row.maxY() <= window.maxY() - (layouts()->hidesBelow() ? fade : 0);
+    }
     Rect visible() { return desktop.screens().front().visibleFrame; }
 };
 
@@ -151,6 +171,67 @@ TEST_F(StatusPanelFitTest, APanelWithRoomForEveryRowDoesNotScroll) {
     panel().scroll(inLayouts(), -30, true);
     EXPECT_DOUBLE_EQ(layouts()->offset(), 0);
     EXPECT_FALSE(layouts()->knob());
+}
+
+TEST_F(StatusPanelFitTest, TheLayoutsFadeOnlyAtAnEdgeWithRowsHiddenPastIt) {
+    openCrowded();
+    EXPECT_FALSE(layouts()->hidesAbove());
+    EXPECT_TRUE(layouts()->hidesBelow());
+    panel().scroll(inLayouts(), -1000, true);
+    EXPECT_TRUE(layouts()->hidesAbove());
+    EXPECT_FALSE(layouts()->hidesBelow());
+}
+
+TEST_F(StatusPanelFitTest, APanelWithRoomForEveryRowHasNoFade) {
+    saveLayouts(3);
+    open();
+    EXPECT_FALSE(layouts()->hidesAbove());
+    EXPECT_FALSE(layouts()->hidesBelow());
+}
+
+TEST_F(StatusPanelFitTest, MovingDownWithTheArrowKeysKeepsEachSelectedLayoutInSight) {
+    openCrowded();
+    const std::vector<Rect> before = topRowFrames();
+    for (int i = 1; i <= 9; ++i) {
+        const std::string label = "Layout " + std::to_string(i);
+        ASSERT_TRUE(arrowTo(label)) << label;
+        EXPECT_TRUE(inLayoutsWindow(label)) << label;
+    }
+    EXPECT_GT(layouts()->offset(), 0);
+    EXPECT_EQ(topRowFrames(), before);
+}
+
+TEST_F(StatusPanelFitTest, MovingBackUpWithTheArrowKeysBringsTheFirstLayoutBackIntoSight) {
+    openCrowded();
+    ASSERT_TRUE(arrowTo("Save Current Layout"));
+    ASSERT_TRUE(arrowTo("Layout 1", KeyCode::upArrow));
+    EXPECT_TRUE(inLayoutsWindow("Layout 1"));
+    EXPECT_DOUBLE_EQ(layouts()->offset(), 0);
+}
+
+TEST_F(StatusPanelFitTest, ReturnRestoresTheLayoutSelectedWithTheArrowKeys) {
+    openCrowded();
+    ASSERT_TRUE(arrowTo("Layout 9"));
+    EXPECT_TRUE(panel().pressKey(KeyCode::returnKey));
+    EXPECT_EQ(desktop.systemLog().count("layouts: restoring \"Layout 9\" from the menu"), 1u);
+}
+
+TEST_F(StatusPanelFitTest, TheArrowKeysStartAtTheFirstRowThatTakesAClickAndStopAtTheLast) {
+    open();
+    EXPECT_TRUE(panel().pressKey(KeyCode::downArrow));
+    EXPECT_EQ(controller->panel()->highlighted(), viewLabelled("More options"));
+    for (int press = 0; press < maxPresses; ++press)
+        panel().pressKey(KeyCode::downArrow);
+    EXPECT_EQ(controller->panel()->highlighted(), viewLabelled("Quit Vistrel"));
+}
+
+TEST_F(StatusPanelFitTest, KeysThePanelDoesNotUseGoOnToTheWindow) {
+    open();
+    constexpr std::int64_t letterA = 0;
+    EXPECT_FALSE(panel().pressKey(KeyCode::returnKey)) << "nothing is highlighted";
+    EXPECT_FALSE(panel().pressKey(KeyCode::downArrow, ModifierFlag::command));
+    EXPECT_FALSE(panel().pressKey(letterA));
+    EXPECT_EQ(controller->panel()->highlighted(), nullptr);
 }
 
 }  // namespace

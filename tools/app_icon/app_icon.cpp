@@ -9,10 +9,28 @@
 
 namespace vistrel {
 
+namespace {
+
+// The rasterizer has no blur: rings of faint black, each a little larger than the last and
+// all dropped below the plate, add up to a shadow that is darkest under the plate's edge and
+// fades out over the spread.
+void drawShadow(Raster& raster, Rect plate, double scale) {
+    const Rect dropped = plate.offsetBy(0, AppIcon::shadowDrop);
+    const double step = AppIcon::shadowSpread / AppIcon::shadowRings;
+    for (int ring = AppIcon::shadowRings; ring >= 1; --ring) {
+        const double grow = ring * step;
+        raster.fill(Path::roundedRect(dropped.insetBy(-grow, -grow), AppIcon::plateRadius + grow),
+                    {0, 0, 0, AppIcon::shadowRingAlpha}, scale, {0, 0});
+    }
+}
+
+}  // namespace
+
 Raster AppIcon::render(int pixels) {
     Raster raster(pixels);
     const double scale = pixels / grid;
     const Rect plate{plateInset, plateInset, grid - 2 * plateInset, grid - 2 * plateInset};
+    if (pixels > largestUnshadowed) drawShadow(raster, plate, scale);
     raster.fill(Path::roundedRect(plate, plateRadius), DFKit::indigo.resolved(Appearance::light),
                 scale, {0, 0});
     // The mark's own outline sits off the centre of its design square: centre what it draws.

@@ -40,12 +40,16 @@ bool DFKitScrollView::scrollBy(double dy) {
     return true;
 }
 
-void DFKitScrollView::scrollToShow(Rect rect) {
-    if (rect.minY() < offset_) {
-        scrollBy(rect.minY() - offset_);
-    } else if (rect.maxY() > offset_ + bounds().height) {
-        scrollBy(rect.maxY() - offset_ - bounds().height);
-    }
+// Where more rows go on past the view, it keeps clear of the fade at that edge too; in a
+// window too low for both, its top wins.
+void DFKitScrollView::scrollToShow(const DFKitView& view) {
+    const Rect shown = view.frameInRoot();
+    const double top = shown.minY() - frameInRoot().minY() + offset_;
+    const double bottom = shown.maxY() - frameInRoot().minY() + offset_;
+    const double lowest =
+        bottom - bounds().height + (bottom < contentHeight(bounds().width) ? fadeHeight : 0);
+    const double highest = top > 0 ? top - fadeHeight : top;
+    scrollBy(std::min(std::max(offset_, lowest), highest) - offset_);
 }
 
 void DFKitScrollView::layout() {
@@ -73,7 +77,22 @@ std::optional<Rect> DFKitScrollView::knob() const {
     return Rect{bounds().width - knobInset - knobWidth, y, knobWidth, height};
 }
 
+// The surface laid over the rows in bands of one point, opaque at the edge and clear
+// `fadeHeight` points in.
+void DFKitScrollView::drawFade(Canvas& canvas, Appearance appearance, bool top) const {
+    const Color surface = DFKit::surface.resolved(appearance);
+    const auto bands = static_cast<int>(fadeHeight);
+    for (int band = 0; band < bands; ++band) {
+        const double y = top ? band : bounds().height - band - 1;
+        Color color = surface;
+        color.alpha *= 1.0 - static_cast<double>(band) / bands;
+        canvas.fill(Path::rect({0, y, bounds().width, 1}), color);
+    }
+}
+
 void DFKitScrollView::drawAbove(Canvas& canvas, Appearance appearance) const {
+    if (hidesAbove()) drawFade(canvas, appearance, true);
+    if (hidesBelow()) drawFade(canvas, appearance, false);
     if (const auto rect = knob())
         canvas.fill(Path::roundedRect(*rect, knobWidth / 2), DFKit::inkMuted.resolved(appearance));
 }

@@ -15,6 +15,8 @@ class DFKitScrollView : public DFKitView {
     static constexpr double knobWidth = 4;
     static constexpr double knobInset = 2;
     static constexpr double leastKnobHeight = 18;
+    // How tall the fade is at an edge where rows are hidden, and its steps of one point each.
+    static constexpr double fadeHeight = 12;
 
     explicit DFKitScrollView(DFKitViews rows);
 
@@ -27,8 +29,9 @@ class DFKitScrollView : public DFKitView {
     // Scrolls the rows up by `dy` points (down for a negative `dy`), as far as they go;
     // answers whether they moved.
     bool scrollBy(double dy);
-    // Scrolls the least that shows a rectangle of the rows' space whole.
-    void scrollToShow(Rect rect);
+    // Scrolls the least that shows one of the rows, or a view inside one, whole and clear of
+    // the fades.
+    void scrollToShow(const DFKitView& view);
     const DFKitViews& rows() const { return rows_; }
 
     Size sizeThatFits(double width) const override;
@@ -36,6 +39,10 @@ class DFKitScrollView : public DFKitView {
     // The scroller's knob over the rows' right edge, while the rows are taller than the
     // window: how much there is and where the window stands in it.
     void drawAbove(Canvas& canvas, Appearance appearance) const override;
+    // Whether rows are hidden above the window, and below it: each such edge fades into the
+    // panel's surface, so that a row cut by it reads as going on, not as drawn wrong.
+    bool hidesAbove() const { return offset_ > 0; }
+    bool hidesBelow() const { return offset_ < maxOffset(); }
     // Where the knob stands in the view's space; nothing while every row shows.
     std::optional<Rect> knob() const;
     std::vector<DFKitView*> subviews() const override;
@@ -45,6 +52,7 @@ class DFKitScrollView : public DFKitView {
 
   private:
     double maxOffset() const;
+    void drawFade(Canvas& canvas, Appearance appearance, bool top) const;
 
     DFKitViews rows_;
     std::optional<double> maxHeight_;

@@ -47,6 +47,8 @@ void DFKitStatusPanel::makeWindow() {
         .mouseMoved = [this](std::optional<Point> point) { mouseMoved(point); },
         .scrolled = [this](Point point, double deltaY,
                            bool precise) { scrolled(point, deltaY, precise); },
+        .keyDown = [this](std::int64_t keyCode,
+                          std::uint64_t flags) { return keyDown(keyCode, flags); },
         .escape =
             [this] {
                 if (onEscape) onEscape();
@@ -152,9 +154,13 @@ void DFKitStatusPanel::mouseUp(Point point) {
 void DFKitStatusPanel::mouseMoved(std::optional<Point> point) {
     DFKitView* over = point ? content_.hitTest(*point) : nullptr;
     if (over && !over->tracksHover()) over = nullptr;
-    if (over == hovered_) return;
+    highlight(over);
+}
+
+void DFKitStatusPanel::highlight(DFKitView* view) {
+    if (view == hovered_) return;
     if (hovered_) hovered_->setHovered(false);
-    hovered_ = over;
+    hovered_ = view;
     if (hovered_) hovered_->setHovered(true);
 }
 

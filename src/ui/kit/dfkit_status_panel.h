@@ -45,6 +45,14 @@ class DFKitStatusPanel : public DFKitHost {
     // the sides of the button's screen (else the main screen), 6 points under the menu bar.
     void position();
 
+    // The keyboard, as in a menu: the up and down arrows move the highlight (the one the
+    // pointer gives) through the views that take a click, scrolling the saved layouts to keep
+    // it in sight, and Return, Enter or Space press the highlighted view. Answers whether the
+    // key was used; keys with Shift, Control, Option or Command are left alone.
+    bool keyDown(std::int64_t keyCode, std::uint64_t modifierFlags);
+    // The highlighted view, by the pointer or the arrow keys; none when nothing is.
+    DFKitView* highlighted() const { return hovered_; }
+
     DFKitPanelView& content() { return content_; }
     KeyPanel* window() const { return window_.get(); }
     Appearance appearance() const { return appearance_; }
@@ -60,6 +68,8 @@ class DFKitStatusPanel : public DFKitHost {
     void mouseUp(Point point);
     void mouseMoved(std::optional<Point> point);
     void scrolled(Point point, double deltaY, bool precise);
+    void highlight(DFKitView* view);
+    void moveHighlight(int step);
     void appearanceChanged(Appearance appearance);
 
     DFKitPanelView content_;

@@ -21,6 +21,8 @@ VISTREL_OPTIONS(NSUInteger, NSEventModifierFlags){
 // lines.
 @property(readonly) CGFloat scrollingDeltaY VISTREL_MACOS(10.7);
 @property(readonly) BOOL hasPreciseScrollingDeltas VISTREL_MACOS(10.7);
+// A key event's virtual key code (kVK_ values, independent of the keyboard layout).
+@property(readonly) unsigned short keyCode;
 // Nil for events other than key events.
 @property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
 // Answers an opaque monitor object, or nil when the monitor could not be installed.

@@ -21,4 +21,6 @@
 - (void)mouseMoved:(NSEvent*)event;
 - (void)mouseExited:(NSEvent*)event;
 - (void)scrollWheel:(NSEvent*)event;
+// The default passes the event to the next responder.
+- (void)keyDown:(NSEvent*)event;
 @end
