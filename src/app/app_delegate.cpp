@@ -4,6 +4,7 @@
 #include "app/move_to_applications.h"
 #include "base/log.h"
 #include "diagnostics/report_problem.h"
+#include "layouts/display_follower.h"
 #include "platform/platform.h"
 #include "session/engine.h"
 #include "settings/preference_key.h"
@@ -54,6 +55,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     p.application.keepTimersOnTime(timersReason);
     engine_ = Engine::make();
     engine_->start();
+    DisplayFollower::shared().start();
     Log::info(startedLine());
     Updates::start();
 }

@@ -15,7 +15,7 @@ class StatusMenuController;
 // run at all (a test host, a second copy, a copy that is being moved), then builds the
 // long-lived parts in a fixed order — fonts, status menu, command channel, first run and
 // the Accessibility prompt, the published status, the engine and where it reads Mission
-// Control, the start-up line, updates.
+// Control, the watch on the displays, the start-up line, updates.
 // Main thread only; lives for the whole run.
 class AppDelegate {
   public:

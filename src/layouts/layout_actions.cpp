@@ -73,14 +73,19 @@ void LayoutActions::captureCurrent(CaptureDone done) {
 }
 
 void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
-    LayoutActionSteps::RestoreRequest request{layout, Screens::snapshot(), gap(),
-                                              Settings::shared().layoutsLaunchApps()};
-    work([request = std::move(request), done = std::move(done)] {
+    restore(layout, {}, std::move(done));
+}
+
+void LayoutActions::restore(const SavedLayout& layout, RestoreOptions options, RestoreDone done) {
+    LayoutActionSteps::RestoreRequest request{
+        layout, Screens::snapshot(), gap(),
+        options.mayLaunch.value_or(Settings::shared().layoutsLaunchApps())};
+    work([request = std::move(request), raises = options.raises, done = std::move(done)] {
         LayoutActionSteps::Before before;
         std::vector<WindowRef> moved = LayoutActionSteps::restore(request, before);
         keepUndo(std::move(before));
         // With nothing moved Mission Control stays open, to say why.
-        if (!moved.empty()) leaveMissionControl(moved);
+        if (raises && !moved.empty()) leaveMissionControl(moved);
         complete(done, std::move(moved));
     });
 }

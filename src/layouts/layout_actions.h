@@ -33,6 +33,14 @@ struct LayoutActions {
         friend bool operator==(const Snapped&, const Snapped&) = default;
     };
 
+    // How a restore goes: whether it may open applications that are not running (as
+    // "layouts.launchApps" says, when not given), and whether it closes Mission Control and
+    // raises the windows it placed.
+    struct RestoreOptions {
+        std::optional<bool> mayLaunch;
+        bool raises = true;
+    };
+
     using CaptureDone = std::function<void(std::optional<SavedLayout>)>;
     using RestoreDone = std::function<void(std::vector<WindowRef>)>;
     using ArrangeDone = std::function<void(std::optional<SavedLayout>)>;
@@ -51,6 +59,7 @@ struct LayoutActions {
     static void captureCurrent(CaptureDone done);
     // Moves the layout's windows back; completes with the windows moved.
     static void restore(const SavedLayout& layout, RestoreDone done);
+    static void restore(const SavedLayout& layout, RestoreOptions options, RestoreDone done);
     // Places each window into its slot on `screen`; completes with the layout they form.
     static void arrange(std::vector<Placement> placements, const ScreenInfo& screen,
                         ArrangeDone done);

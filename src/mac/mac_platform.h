@@ -5,6 +5,7 @@
 #include "mac/mac_appearance.h"
 #include "mac/mac_archiver.h"
 #include "mac/mac_defaults.h"
+#include "mac/mac_display_watch.h"
 #include "mac/mac_event_monitors.h"
 #include "mac/mac_event_tap_port.h"
 #include "mac/mac_executor.h"
@@ -43,6 +44,7 @@ class MacPlatform {
                     .windowServer = windowServer_,
                     .workspace = workspace_,
                     .screens = screens_,
+                    .displayWatch = displayWatch_,
                     .defaults = defaults_,
                     .eventTap = eventTap_,
                     .executor = executor_,
@@ -81,6 +83,7 @@ class MacPlatform {
     MacWindowServer windowServer_;
     MacWorkspace workspace_;
     MacScreenList screens_;
+    MacDisplayWatch displayWatch_;
     MacDefaults defaults_;
     MacEventTapPort eventTap_;
     MacExecutor executor_;

@@ -8,6 +8,7 @@
 #include "platform/appearance.h"
 #include "platform/archiver.h"
 #include "platform/defaults.h"
+#include "platform/display_watch.h"
 #include "platform/event_monitors.h"
 #include "platform/event_tap_port.h"
 #include "platform/executor.h"
@@ -47,6 +48,7 @@ struct Platform {
     WindowServer& windowServer;
     Workspace& workspace;
     ScreenList& screens;
+    DisplayWatch& displayWatch;
     Defaults& defaults;
     EventTapPort& eventTap;
     Executor& executor;

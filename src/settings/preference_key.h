@@ -19,6 +19,7 @@ inline constexpr std::string_view layoutsEnabled = "layouts.enabled";
 inline constexpr std::string_view layoutsShelf = "layouts.shelf";
 inline constexpr std::string_view layoutsLaunchApps = "layouts.launchApps";
 inline constexpr std::string_view layoutsGap = "layouts.gap";
+inline constexpr std::string_view layoutsFollowDisplays = "layouts.followDisplays";
 inline constexpr std::string_view layoutsSaved = "layouts.saved";
 inline constexpr std::string_view layoutsDebugGeometry = "layouts.debugGeometry";
 inline constexpr std::string_view layoutsDebugShelf = "layouts.debug.shelf";
@@ -36,5 +37,13 @@ namespace MaximizeMode {
 inline constexpr std::string_view fill = "fill";
 inline constexpr std::string_view fullScreen = "fullscreen";
 }  // namespace MaximizeMode
+
+// Values of "layouts.followDisplays": what happens when the connected displays change to a
+// set a layout was saved on.
+namespace FollowDisplays {
+inline constexpr std::string_view off = "off";
+inline constexpr std::string_view ask = "ask";
+inline constexpr std::string_view automatic = "automatic";
+}  // namespace FollowDisplays
 
 }  // namespace vistrel

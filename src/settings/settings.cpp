@@ -84,6 +84,14 @@ double Settings::layoutsGap() const {
     return std::clamp(gap, 0.0, maxLayoutsGap);
 }
 
+FollowDisplaysMode Settings::layoutsFollowDisplays() const {
+    const std::optional<std::string> mode =
+        d_->object(key(PreferenceKey::layoutsFollowDisplays)).string();
+    if (mode == FollowDisplays::off) return FollowDisplaysMode::off;
+    if (mode == FollowDisplays::automatic) return FollowDisplaysMode::automatic;
+    return FollowDisplaysMode::ask;
+}
+
 std::optional<std::string> Settings::buttonTheme() const {
     return d_->object(key(PreferenceKey::buttonTheme)).string();
 }

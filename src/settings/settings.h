@@ -19,6 +19,9 @@ inline constexpr double medium = 25;
 inline constexpr double large = 32;
 }  // namespace ButtonSize
 
+// What the agent does when the displays change to a set a layout was saved on.
+enum class FollowDisplaysMode { off, ask, automatic };
+
 // The typed reader of the shared preferences and the publisher of the agent's status.
 // Preferences are read from the store at the moment of use, never cached, so a change made
 // in the Settings app takes effect at once. A value of the wrong type reads as its default.
@@ -43,6 +46,8 @@ class Settings {
     bool layoutsShelf() const;
     bool layoutsLaunchApps() const;
     double layoutsGap() const;
+    // "layouts.followDisplays": "ask" when absent, not text or not one of the three.
+    FollowDisplaysMode layoutsFollowDisplays() const;
     bool layoutsDebugGeometry() const;
     // The raw "buttonTheme" text; unknown names are for the theme reader to reject.
     std::optional<std::string> buttonTheme() const;

@@ -136,6 +136,13 @@ void addLayoutsPage(SettingsContent& content) {
         .add(ControlSpec(ControlKind::slider, "layouts.gap", "Gap between windows")
                  .range({0, Settings::maxLayoutsGap, 1, "pt"}),
              gap)
+        .add(ControlSpec(ControlKind::choice, "layouts.followDisplays", "When your displays change")
+                 .help("Plug a display in again or wake at your desk, and the latest layout "
+                       "saved on those displays puts the windows back.")
+                 .options({{std::string(FollowDisplays::ask), "Offer their layout in the menu"},
+                           {std::string(FollowDisplays::automatic), "Restore their layout"},
+                           {std::string(FollowDisplays::off), "Do nothing"}}),
+             within(text(PreferenceKey::layoutsFollowDisplays, FollowDisplays::ask), enabled))
         .section("Saved Layouts",
                  "Command-1 to Command-9 restore the first nine while Mission Control is open.")
         .add(ControlSpec(ControlKind::layoutList, "layouts.saved", "Saved layouts"), savedList);

@@ -33,6 +33,7 @@ SimDesktop::SimDesktop()
                 .windowServer = windowServer_,
                 .workspace = workspace_,
                 .screens = screenList_,
+                .displayWatch = displayWatch_,
                 .defaults = defaults_,
                 .eventTap = eventTap_,
                 .executor = executor_,
@@ -137,10 +138,13 @@ std::optional<SimWindowId> SimDesktop::windowAt(Point point) const {
 }
 
 void SimDesktop::addScreenToTheRight(Size size) {
+    addScreenToTheRight(size, firstDisplayID + static_cast<std::uint32_t>(screens_.size()));
+}
+
+void SimDesktop::addScreenToTheRight(Size size, std::uint32_t displayID) {
     const Rect& last = screens_.back().frame;
     const Rect frame{last.maxX(), last.maxY() - size.height, size.width, size.height};
-    screens_.push_back(
-        screenAt(frame, firstDisplayID + static_cast<std::uint32_t>(screens_.size())));
+    screens_.push_back(screenAt(frame, displayID));
 }
 
 std::vector<Rect> SimDesktop::accessibilityScreenFrames() const {

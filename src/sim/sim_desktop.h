@@ -13,6 +13,7 @@
 #include "sim/sim_archiver.h"
 #include "sim/sim_clock.h"
 #include "sim/sim_defaults.h"
+#include "sim/sim_display_watch.h"
 #include "sim/sim_dock.h"
 #include "sim/sim_event_monitors.h"
 #include "sim/sim_event_tap_port.h"
@@ -135,6 +136,17 @@ class SimDesktop {
     bool separateSpaces = true;
     // Adds a screen to the right of the last one (AppKit coordinates, tops aligned).
     void addScreenToTheRight(Size size);
+    // The display notifications the agent observes.
+    SimDisplayWatch& displayWatch() { return displayWatch_; }
+    // A display plugged in to the right of the others, and one unplugged (never the
+    // primary): macOS tells of each in stages, a notification now and another a moment later,
+    // and moves the windows of an unplugged display onto the primary one. While the Mac
+    // sleeps nothing is told; waking tells of the wake, and of any change made meanwhile.
+    void plugDisplay(std::uint32_t displayID, Size size);
+    void unplugDisplay(std::uint32_t displayID);
+    void sleep();
+    void wake();
+    bool asleep() const { return asleep_; }
     // The screens' frames in accessibility coordinates (origin at the primary's top-left).
     std::vector<Rect> accessibilityScreenFrames() const;
 
@@ -151,6 +163,12 @@ class SimDesktop {
     std::optional<AXError> staleGrant;
 
   private:
+    void addScreenToTheRight(Size size, std::uint32_t displayID);
+    // Tells the agent the displays changed, in the stages macOS tells it.
+    void tellDisplaysChanged();
+    // Moves the windows standing on the frame onto the primary display's visible area.
+    void gatherWindowsFrom(Rect frame);
+
     SimClock clock_;
     SimExecutor executor_;
     SimAccessibility accessibility_;
@@ -163,6 +181,7 @@ class SimDesktop {
     SimWindowHost windowHost_;
     SimTextMeasurer text_;
     SimScreenList screenList_;
+    SimDisplayWatch displayWatch_{executor_};
     SimNotificationCenter notifications_{executor_};
     SimUpdateService updates_;
     SimAgentApplication application_;
@@ -190,6 +209,8 @@ class SimDesktop {
     std::vector<SimApplication> applications_;
     std::vector<SimWindow> windows_;
     std::vector<ScreenDescription> screens_;
+    bool asleep_ = false;
+    bool changedWhileAsleep_ = false;
     SimWindowId nextWindowId_ = 1;
     Pid nextPid_ = 500;
 };

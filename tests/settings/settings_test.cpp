@@ -132,6 +132,19 @@ TEST_F(SettingsTest, MaximizeModeReadsFullscreenWhenAbsentOrNotText) {
     EXPECT_EQ(settings().maximizeMode(), "fill");
 }
 
+TEST_F(SettingsTest, FollowingDisplaysAsksUnlessExactlyOffOrAutomatic) {
+    EXPECT_EQ(settings().layoutsFollowDisplays(), FollowDisplaysMode::ask);
+    store(PreferenceKey::layoutsFollowDisplays, "automatic");
+    EXPECT_EQ(settings().layoutsFollowDisplays(), FollowDisplaysMode::automatic);
+    store(PreferenceKey::layoutsFollowDisplays, "off");
+    EXPECT_EQ(settings().layoutsFollowDisplays(), FollowDisplaysMode::off);
+    for (const DefaultsValue& other :
+         {DefaultsValue("Off"), DefaultsValue("always"), DefaultsValue(1), DefaultsValue(true)}) {
+        store(PreferenceKey::layoutsFollowDisplays, other);
+        EXPECT_EQ(settings().layoutsFollowDisplays(), FollowDisplaysMode::ask);
+    }
+}
+
 TEST_F(SettingsTest, PreferencesAreReadAtTheMomentOfUse) {
     EXPECT_EQ(settings().buttonSize(), 25);
     store(PreferenceKey::buttonSizeOption, "small");

@@ -21,8 +21,9 @@ TEST(DFKitPaletteTest, ResolvesEachColourForTheAppearance) {
     EXPECT_EQ(DFKit::onIndigo.resolved(Appearance::dark), Color::fromRGB(0x111214));
 }
 
-TEST(DFKitGlyphTest, HasFortyOneGlyphsNamedInOrder) {
-    ASSERT_EQ(allGlyphs().size(), 41u);
+TEST(DFKitGlyphTest, HasFortyTwoGlyphsNamedInOrder) {
+    ASSERT_EQ(allGlyphs().size(), 42u);
+    EXPECT_EQ(rawValue(DFKitGlyph::display), "display");
     EXPECT_EQ(rawValue(DFKitGlyph::apps), "apps");
     EXPECT_EQ(rawValue(DFKitGlyph::wins), "wins");
     EXPECT_EQ(rawValue(DFKitGlyph::playpause), "playpause");

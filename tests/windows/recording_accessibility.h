@@ -25,6 +25,7 @@ class RecordingAccessibility : public Accessibility {
                      .windowServer = inner.windowServer,
                      .workspace = inner.workspace,
                      .screens = inner.screens,
+                     .displayWatch = inner.displayWatch,
                      .defaults = inner.defaults,
                      .eventTap = inner.eventTap,
                      .executor = inner.executor,

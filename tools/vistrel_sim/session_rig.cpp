@@ -35,6 +35,7 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .windowServer = desktop.platform().windowServer,
                 .workspace = desktop.platform().workspace,
                 .screens = desktop.platform().screens,
+                .displayWatch = desktop.platform().displayWatch,
                 .defaults = desktop.platform().defaults,
                 .eventTap = desktop.platform().eventTap,
                 .executor = desktop.platform().executor,

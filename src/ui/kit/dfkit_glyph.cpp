@@ -9,11 +9,12 @@ namespace vistrel {
 namespace {
 
 constexpr std::array<std::string_view, glyphCount> rawValues = {
-    "apps",   "arrow",  "buds",    "call",     "check", "chevrons", "clock", "close",   "cmd",
-    "cursor", "dock",   "dots",    "download", "eye",   "flag",     "gear",  "globe",   "head",
-    "info",   "key",    "levels",  "mic",      "minus", "mute",     "note",  "play",    "playpause",
-    "plus",   "power",  "refresh", "search",   "share", "sliders",  "spark", "speaker", "terminal",
-    "undo",   "volume", "warning", "wifi",     "wins"};
+    "apps",    "arrow",    "buds",    "call",    "check",   "chevrons", "clock",
+    "close",   "cmd",      "cursor",  "display", "dock",    "dots",     "download",
+    "eye",     "flag",     "gear",    "globe",   "head",    "info",     "key",
+    "levels",  "mic",      "minus",   "mute",    "note",    "play",     "playpause",
+    "plus",    "power",    "refresh", "search",  "share",   "sliders",  "spark",
+    "speaker", "terminal", "undo",    "volume",  "warning", "wifi",     "wins"};
 
 }  // namespace
 

@@ -21,6 +21,7 @@ enum class DFKitGlyph {
     close,
     cmd,
     cursor,
+    display,
     dock,
     dots,
     download,
@@ -54,7 +55,7 @@ enum class DFKitGlyph {
     wins,
 };
 
-inline constexpr std::size_t glyphCount = 41;
+inline constexpr std::size_t glyphCount = 42;
 inline constexpr double glyphGrid = 24;
 // Glyphs keep this line width at every size.
 inline constexpr double glyphLineWidth = 1.6;

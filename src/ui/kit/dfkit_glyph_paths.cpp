@@ -242,6 +242,13 @@ Path objects(DFKitGlyph glyph) {
                 .circle(centre, ringRadius)
                 .polyline({{12, 7}, {12, 12}, {15.5, 14.2}})
                 .path();
+        case DFKitGlyph::display:
+            // A display on a stand.
+            return GlyphPen()
+                .roundedRect({3, 4, 18, 12}, 2)
+                .polyline({{12, 16}, {12, 19.5}})
+                .polyline({{8, 20}, {16, 20}})
+                .path();
         case DFKitGlyph::dock:
             return GlyphPen()
                 .roundedRect({3, 4, 18, 16}, 2.5)

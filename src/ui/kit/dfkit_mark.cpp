@@ -4,6 +4,8 @@ namespace vistrel {
 
 namespace {
 constexpr double designSize = 100;
+// The dot in the corner the mark leaves empty, clear of its bars by a few units.
+constexpr Rect dotRect{6, 6, 24, 24};
 }  // namespace
 
 std::string_view rawValue(DFKitMark mark) {
@@ -27,10 +29,12 @@ Path markPath(DFKitMark mark) {
         .addOval({52.5, 52.5, 34, 34});
 }
 
-std::shared_ptr<const DisplayList> markImage(DFKitMark mark, double size, Color color) {
+std::shared_ptr<const DisplayList> markImage(DFKitMark mark, double size, Color color,
+                                             bool dotted) {
     RecordingCanvas canvas(true);
     canvas.scale(size / designSize, size / designSize);
     canvas.fill(markPath(mark), color);
+    if (dotted) canvas.fill(Path::oval(dotRect), color);
     return canvas.finish();
 }
 

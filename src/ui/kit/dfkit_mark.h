@@ -18,8 +18,10 @@ std::string_view rawValue(DFKitMark mark);
 Path markPath(DFKitMark mark);
 
 // The mark filled in `color` and scaled to a square of `size` points: a flipped display
-// list, as an image of that size.
-std::shared_ptr<const DisplayList> markImage(DFKitMark mark, double size, Color color);
+// list, as an image of that size. `dotted` adds a dot in the mark's empty top-left corner,
+// telling that something waits in the panel.
+std::shared_ptr<const DisplayList> markImage(DFKitMark mark, double size, Color color,
+                                             bool dotted = false);
 
 // The identity shown in a panel header: a display name and a mark.
 struct DFKitApp {

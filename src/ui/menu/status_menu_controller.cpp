@@ -1,6 +1,7 @@
 #include "ui/menu/status_menu_controller.h"
 
 #include "base/log.h"
+#include "layouts/display_follower.h"
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"
@@ -43,14 +44,24 @@ void StatusMenuController::init() {
         Log::error("status item could not be made");
         return;
     }
-    // Black on clear: as a template, the menu bar tints it.
-    item_->setTemplateImage(markImage(app_.mark, markSize, Color::black()), {markSize, markSize});
+    applyMark();
     item_->setAccessibilityLabel(accessibilityLabel);
     std::weak_ptr<StatusMenuController> weak = weak_from_this();
     item_->setAction([weak] {
         if (auto self = weak.lock()) self->clicked();
     });
+    DisplayFollower::shared().setOnOfferChanged([weak] {
+        if (auto self = weak.lock()) self->applyMark();
+    });
     applyVisibility();
+}
+
+void StatusMenuController::applyMark() {
+    if (!item_) return;
+    const bool dotted = DisplayFollower::shared().offer().has_value();
+    // Black on clear: as a template, the menu bar tints it.
+    item_->setTemplateImage(markImage(app_.mark, markSize, Color::black(), dotted),
+                            {markSize, markSize});
 }
 
 void StatusMenuController::applyVisibility() {

@@ -59,6 +59,8 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     std::vector<NativeMenuItem> moreMenuItems();
     // Shows or hides the item as "menuBarIconHidden" asks.
     void applyVisibility();
+    // Draws the mark, with a dot while a layout for the displays waits to be restored.
+    void applyMark();
 
     StatusItem* item() const { return item_.get(); }
     DFKitStatusPanel* panel() const { return panel_.get(); }
@@ -72,6 +74,8 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     void moreMenu();
     bool keyDown(const KeyPress& press);
     // Whether Vistrel is ready, or the most pressing reason it is not and what to do.
+    // The layout offered for the displays connected now, when one is.
+    DFKitViews offerRows();
     DFKitViews readinessRows();
     DFKitViews cannotReadRows();
     // A button under a readiness row, lined up with its text.

@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "base/log.h"
+#include "layouts/display_follower.h"
 #include "layouts/layout_actions.h"
 #include "layouts/layout_store.h"
 #include "platform/platform.h"
@@ -51,6 +52,7 @@ DFKitViews StatusMenuController::rows() {
     });
     moreButton_ = more.get();
     append<DFKitPanelHeader>(rows, app_, std::nullopt, std::move(more));
+    appendAll(rows, offerRows());
     appendAll(rows, readinessRows());
     append<DFKitSeparator>(rows);
     append<DFKitSectionLabel>(rows, "Shortcuts in Mission Control");
@@ -58,6 +60,18 @@ DFKitViews StatusMenuController::rows() {
     if (Settings::shared().layoutsEnabled()) appendAll(rows, layoutRows());
     append<DFKitSeparator>(rows);
     appendAll(rows, bottomRows());
+    return rows;
+}
+
+DFKitViews StatusMenuController::offerRows() {
+    DFKitViews rows;
+    const auto& offer = DisplayFollower::shared().offer();
+    if (!offer) return rows;
+    append<DFKitMenuRow>(
+        rows, DFKitGlyph::display, "Restore \"" + offer->name + "\" for these displays",
+        std::nullopt,
+        rowAction([](StatusMenuController&) { DisplayFollower::shared().acceptOffer(); }));
+    append<DFKitSeparator>(rows);
     return rows;
 }
 

@@ -4,6 +4,7 @@
 #include <AppKit/NSRunningApplication.h>
 #include <Foundation/NSArray.h>
 #include <Foundation/NSError.h>
+#include <Foundation/NSNotification.h>
 #include <Foundation/NSURL.h>
 
 VISTREL_MACOS(10.15)
@@ -18,6 +19,8 @@ VISTREL_MACOS(10.15)
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
 @property(readonly, copy) NSArray<NSRunningApplication*>* runningApplications VISTREL_MACOS(10.6);
+// Workspace notifications are posted here only, not on the default centre.
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
 - (nullable NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)bundleIdentifier
     VISTREL_MACOS(10.6);
 - (NSImage*)iconForFile:(NSString*)fullPath;
@@ -29,3 +32,6 @@ VISTREL_MACOS(10.15)
                                                 NSError* _Nullable error))completionHandler
     VISTREL_MACOS(10.15);
 @end
+
+// Posted on the workspace's notification centre when the Mac wakes from sleep; no user info.
+extern NSNotificationName const NSWorkspaceDidWakeNotification;

@@ -12,12 +12,14 @@ typedef NSString* NSNotificationName;
 @end
 
 @interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
 // The answer is the observer to remove later; the block runs on `queue`.
 - (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
                             object:(nullable id)obj
                              queue:(nullable NSOperationQueue*)queue
                         usingBlock:(void (^)(NSNotification* notification))block
     VISTREL_MACOS(10.6);
+- (void)removeObserver:(id)observer;
 @end
 
 VISTREL_ENUM(NSUInteger, NSNotificationSuspensionBehavior){

@@ -1,0 +1,76 @@
+#include <algorithm>
+
+#include "sim/sim_desktop.h"
+
+// Displays coming and going, and the Mac sleeping and waking.
+
+namespace vistrel {
+
+namespace {
+
+// macOS posts the screen-parameters notification more than once for one plug, as displays
+// reconnect in stages (gtarpenning/agent-island, ScreenObserver.swift, debounces it for this).
+constexpr double secondStage = 0.6;
+
+// The frame moved inside the area, keeping its offset from the area's corner where it can and
+// shrinking it where it is larger.
+Rect keptInside(Rect frame, Rect from, Rect area) {
+    frame.width = std::min(frame.width, area.width);
+    frame.height = std::min(frame.height, area.height);
+    frame.x = std::clamp(area.x + (frame.x - from.x), area.x, area.maxX() - frame.width);
+    frame.y = std::clamp(area.y + (frame.y - from.y), area.y, area.maxY() - frame.height);
+    return frame;
+}
+
+}  // namespace
+
+void SimDesktop::plugDisplay(std::uint32_t displayID, Size size) {
+    addScreenToTheRight(size, displayID);
+    tellDisplaysChanged();
+}
+
+void SimDesktop::unplugDisplay(std::uint32_t displayID) {
+    const std::vector<Rect> frames = accessibilityScreenFrames();
+    for (std::size_t i = 1; i < screens_.size(); ++i) {
+        if (screens_[i].displayID != displayID) continue;
+        screens_.erase(screens_.begin() + static_cast<std::ptrdiff_t>(i));
+        gatherWindowsFrom(frames[i]);
+        tellDisplaysChanged();
+        return;
+    }
+}
+
+void SimDesktop::sleep() {
+    asleep_ = true;
+}
+
+void SimDesktop::wake() {
+    asleep_ = false;
+    displayWatch_.post();
+    if (changedWhileAsleep_) tellDisplaysChanged();
+    changedWhileAsleep_ = false;
+}
+
+void SimDesktop::tellDisplaysChanged() {
+    if (asleep_) {
+        changedWhileAsleep_ = true;
+        return;
+    }
+    displayWatch_.post();
+    executor_.main().after(secondStage, [this] {
+        if (!asleep_) displayWatch_.post();
+    });
+}
+
+void SimDesktop::gatherWindowsFrom(Rect frame) {
+    const ScreenDescription& primary = screens_.front();
+    // The primary display's visible area in accessibility coordinates: below the menu bar.
+    const Rect area{primary.visibleFrame.x, simMenuBarHeight, primary.visibleFrame.width,
+                    primary.visibleFrame.height};
+    for (SimWindow& window : windows_) {
+        if (frame.contains(window.frame.mid()))
+            window.frame = keptInside(window.frame, frame, area);
+    }
+}
+
+}  // namespace vistrel

@@ -1,0 +1,104 @@
+// While a layout saved on the displays connected now waits to be restored, the status panel
+// offers it in its first row and the status item carries a dot.
+#include <gtest/gtest.h>
+
+#include "layouts/display_follower.h"
+#include "layouts/display_match.h"
+#include "layouts/layout_store.h"
+#include "settings/preference_key.h"
+#include "settings/shared.h"
+#include "sim/sim_scene.h"
+#include "status_menu_fixture.h"
+#include "ui/kit/dfkit_menu_row.h"
+#include "windows/screens.h"
+
+namespace vistrel::testing {
+namespace {
+
+constexpr std::uint32_t studio = 2;
+constexpr Size studioSize{1920, 1080};
+constexpr double settled = 5;
+constexpr const char* offerRow = "Restore \"Desk\" for these displays";
+
+class DisplayOfferRowTest : public StatusMenuTest {
+  protected:
+    void SetUp() override {
+        populateDefaultScene(desktop);
+        Shared::store()->set(std::string(PreferenceKey::layoutsEnabled), true);
+        StatusMenuTest::SetUp();
+        DisplayFollower::shared().start();
+    }
+    void TearDown() override { DisplayFollower::shared().stop(); }
+
+    // A layout saved at the desk, with Notes on the left half of the Studio Display; the
+    // display is then unplugged and plugged in again.
+    void comeBackToTheDesk() {
+        change([this] { desktop.plugDisplay(studio, studioSize); });
+        const std::string display = Screens::snapshot().back().id;
+        SavedLayout desk{UUID::random(),
+                         "Desk",
+                         {{"com.apple.Notes", "Notes", "Notes", UnitRect{0, 0, 0.5, 1}, display}}};
+        desk.displays = DisplayMatch::displaysOf(Screens::snapshot());
+        LayoutStore::add(*Shared::store(), desk);
+        change([this] { desktop.unplugDisplay(studio); });
+        change([this] { desktop.plugDisplay(studio, studioSize); });
+    }
+    template <typename Change>
+    void change(Change change) {
+        change();
+        desktop.executor().advance(settled);
+    }
+    // Whether the status item's mark carries its dot: a second shape beside the mark.
+    bool dotted() { return item().image()->all<DisplayList::Fill>().size() == 2; }
+    const SimWindow& notes() {
+        for (const SimWindow& window : desktop.windows()) {
+            if (window.title == "Notes") return window;
+        }
+        throw std::logic_error("no Notes");
+    }
+};
+
+TEST_F(DisplayOfferRowTest, TheOfferedLayoutIsThePanelsFirstRowUnderItsHeader) {
+    comeBackToTheDesk();
+    open();
+    const auto& rows = controller->panel()->content().rows();
+    ASSERT_GE(rows.size(), 2u);
+    const auto* row = dynamic_cast<const DFKitMenuRow*>(rows[1].get());
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->title(), offerRow);
+    EXPECT_EQ(row->glyph(), DFKitGlyph::display);
+}
+
+TEST_F(DisplayOfferRowTest, TheStatusItemCarriesADotWhileTheOfferWaits) {
+    EXPECT_FALSE(dotted());
+    comeBackToTheDesk();
+    EXPECT_TRUE(dotted());
+    change([this] { desktop.unplugDisplay(studio); });
+    EXPECT_FALSE(dotted());
+}
+
+TEST_F(DisplayOfferRowTest, ClickingTheOfferPutsTheWindowsBackAndTakesTheRowAndTheDotAway) {
+    comeBackToTheDesk();
+    open();
+    clickLabelled(offerRow);
+    desktop.executor().advance(settled);
+
+    EXPECT_EQ(notes().frame, (Rect{1440, 25, 960, 985}));
+    EXPECT_FALSE(dotted());
+    open();
+    EXPECT_EQ(viewLabelled(offerRow), nullptr);
+}
+
+TEST_F(DisplayOfferRowTest, NoOfferRowWithoutAnOffer) {
+    open();
+    const auto& rows = controller->panel()->content().rows();
+    for (const auto& row : rows) {
+        const auto* menuRow = dynamic_cast<const DFKitMenuRow*>(row.get());
+        if (menuRow != nullptr) {
+            EXPECT_NE(menuRow->glyph(), DFKitGlyph::display);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vistrel::testing
