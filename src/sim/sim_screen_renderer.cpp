@@ -17,6 +17,8 @@ namespace vistrel {
 
 namespace {
 
+constexpr double deskGrey = 0.11;
+
 SimPaintedWindow painted(SimDesktop& desktop, const SimWindow& window) {
     const SimApplication* app = desktop.application(window.pid);
     return {window.frame, window.title, app != nullptr ? app->name : std::string(),
@@ -38,6 +40,24 @@ std::string frontApplication(SimDesktop& desktop) {
     return "Finder";
 }
 
+bool isDark(SimDesktop& desktop) {
+    return desktop.appearance().current() == Appearance::dark;
+}
+
+// The smallest rectangle holding every display.
+Rect boundsOf(const std::vector<Rect>& frames) {
+    if (frames.empty()) return {};
+    double minX = frames.front().minX(), minY = frames.front().minY();
+    double maxX = frames.front().maxX(), maxY = frames.front().maxY();
+    for (const Rect& frame : frames) {
+        minX = std::min(minX, frame.minX());
+        minY = std::min(minY, frame.minY());
+        maxX = std::max(maxX, frame.maxX());
+        maxY = std::max(maxY, frame.maxY());
+    }
+    return {minX, minY, maxX - minX, maxY - minY};
+}
+
 std::vector<Color> dockTiles(SimDesktop& desktop) {
     std::vector<Color> tiles;
     for (const SimApplication& app : desktop.applications()) {
@@ -54,7 +74,7 @@ void paintDesktop(CairoDesktopPainter& painter, SimDesktop& desktop) {
     for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
         if (isApplicationWindow(desktop, *it)) painter.window(painted(desktop, *it));
     }
-    painter.menuBar(frontApplication(desktop), desktop.appearance().current() == Appearance::dark);
+    painter.menuBar(frontApplication(desktop), isDark(desktop));
 }
 
 void paintThumbnails(CairoDesktopPainter& painter, SimDesktop& desktop,
@@ -111,16 +131,27 @@ SimScreenRenderer::SimScreenRenderer(SimDesktop& desktop, std::filesystem::path 
     : desktop_(desktop), fonts_(std::move(fontDirectory)) {}
 
 CairoSurface SimScreenRenderer::render(const SimScreenScene& scene) {
-    const auto& screens = desktop_.screens();
-    const Size size = screens.empty() ? Size{} : screens.front().frame.size();
-    const Rect screen{0, 0, size.width, size.height};
-    CairoSurface surface(static_cast<int>(std::ceil(size.width * scene.scale)),
-                         static_cast<int>(std::ceil(size.height * scene.scale)));
+    const std::vector<Rect> frames = desktop_.accessibilityScreenFrames();
+    const Rect screen = frames.empty() ? Rect{} : frames.front();
+    const bool every = scene.everyDisplay && !scene.missionControl;
+    const Rect area = every ? boundsOf(frames) : screen;
+    CairoSurface surface(static_cast<int>(std::ceil(area.width * scene.scale)),
+                         static_cast<int>(std::ceil(area.height * scene.scale)));
     cairo_t* cr = cairo_create(surface.get());
     cairo_scale(cr, scene.scale, scene.scale);
-    cairo_rectangle(cr, 0, 0, size.width, size.height);
+    cairo_translate(cr, -area.x, -area.y);
+    cairo_rectangle(cr, area.x, area.y, area.width, area.height);
     cairo_clip(cr);
+    if (every) {
+        // Around displays of different sizes, the dark of the desk.
+        cairo_set_source_rgb(cr, deskGrey, deskGrey, deskGrey);
+        cairo_paint(cr);
+    }
 
+    // The other displays' wallpapers go first, under any window reaching across to them.
+    const std::size_t displays = every ? frames.size() : 1;
+    for (std::size_t i = 1; i < displays; ++i)
+        CairoDesktopPainter(cr, fonts_, frames[i]).wallpaper(false);
     CairoDesktopPainter painter(cr, fonts_, screen);
     painter.wallpaper(scene.missionControl);
     if (scene.missionControl) {
@@ -128,10 +159,13 @@ CairoSurface SimScreenRenderer::render(const SimScreenScene& scene) {
     } else {
         paintDesktop(painter, desktop_);
     }
+    for (std::size_t i = 1; i < displays; ++i)
+        CairoDesktopPainter(cr, fonts_, frames[i])
+            .menuBar(frontApplication(desktop_), isDark(desktop_));
     // The Dock stays on screen in Mission Control.
     painter.dock(dockTiles(desktop_));
     for (const SimAgentWindow* window : visibleAgentWindows(desktop_)) {
-        paintAgentWindow(cr, *window, size.height, fonts_);
+        paintAgentWindow(cr, *window, screen.height, fonts_);
     }
     SimMenuBarPainter menuBar(cr, fonts_, desktop_);
     // Mission Control covers the menu bar; the agent's panel closes when it opens.

@@ -32,10 +32,13 @@ struct SimScreenScene {
     std::optional<Point> pointer;
     // Pixels per point: 2 draws as a Retina display does.
     double scale = 2;
+    // Every display side by side as they are arranged, not the primary one alone; outside
+    // Mission Control only.
+    bool everyDisplay = false;
 };
 
-// Draws the whole primary screen of a simulated desktop: the desktop (its windows, or
-// Mission Control's thumbnails), then every visible window of the agent, lowest level
+// Draws the whole primary screen of a simulated desktop (or every display): the desktop (its
+// windows, or Mission Control's thumbnails), then every visible window of the agent, lowest level
 // first, with its alpha, its display list replayed by Cairo over frosted glass (CairoGlass)
 // when the window has glass.
 class SimScreenRenderer {

@@ -89,6 +89,23 @@ TEST_F(DisplayOfferRowTest, ClickingTheOfferPutsTheWindowsBackAndTakesTheRowAndT
     EXPECT_EQ(viewLabelled(offerRow), nullptr);
 }
 
+TEST_F(DisplayOfferRowTest, ALongNameWrapsOntoMoreLinesInsteadOfBeingCutShort) {
+    const std::string title = "Restore \"Safari · Notes · Terminal · Mail\" for these displays";
+    DFKitMenuRow cut(DFKitGlyph::display, title, std::nullopt, [] {});
+    DFKitMenuRow wrapping(DFKitGlyph::display, title, std::nullopt, [] {});
+    wrapping.setWraps(true);
+    EXPECT_EQ(cut.sizeThatFits(DFKitMenuRow::size.width), DFKitMenuRow::size);
+    const Size size = wrapping.sizeThatFits(DFKitMenuRow::size.width);
+    EXPECT_GT(size.height, DFKitMenuRow::size.height);
+    wrapping.setFrame({0, 0, size.width, size.height});
+    RecordingCanvas canvas;
+    wrapping.draw(canvas, Appearance::light);
+    std::string drawn;
+    for (const auto& text : canvas.finish()->all<DisplayList::Text>())
+        drawn += (drawn.empty() ? "" : " ") + text.run.text;
+    EXPECT_EQ(drawn, title);
+}
+
 TEST_F(DisplayOfferRowTest, NoOfferRowWithoutAnOffer) {
     open();
     const auto& rows = controller->panel()->content().rows();

@@ -158,6 +158,7 @@ bool SessionRig::takePicture(int number, std::string_view picture,
     scene.missionControl = desktop_.dock().isOpen();
     if (scene.missionControl) scene.thumbnails = screenThumbnails(desktop_, hovered);
     scene.pointer = pointer_;
+    scene.everyDisplay = everyDisplay_;
     const auto path =
         context_.outputDirectory / (name_ + "-" + std::to_string(number) + "-" +
                                     std::string(picture) + std::string(pictureExtension));

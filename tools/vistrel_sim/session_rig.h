@@ -115,6 +115,8 @@ class SessionRig {
     bool clickPanelRow(const std::string& label);
 
     bool takePicture(int number, std::string_view picture, std::optional<SimWindowId> hovered);
+    // Pictures outside Mission Control show every display as arranged, not the primary alone.
+    void showEveryDisplay() { everyDisplay_ = true; }
     std::string titleOf(SimWindowId id);
     // Prints why the session stopped; false, to return from the step.
     bool fail(std::string_view why);
@@ -129,6 +131,7 @@ class SessionRig {
     std::shared_ptr<Engine> ownEngine_;
     Engine* engine_ = nullptr;
     std::optional<Point> pointer_;
+    bool everyDisplay_ = false;
 };
 
 }  // namespace vistrel

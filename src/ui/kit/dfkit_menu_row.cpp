@@ -1,5 +1,8 @@
 #include "ui/kit/dfkit_menu_row.h"
 
+#include <string>
+#include <vector>
+
 #include "ui/kit/dfkit_palette.h"
 
 namespace vistrel {
@@ -23,18 +26,41 @@ std::optional<std::string> DFKitMenuRow::shortcut() const {
     return shortcut_->string();
 }
 
+double DFKitMenuRow::titleWidth(double rowWidth) const {
+    const double shortcutWidth = shortcut_ ? shortcut_->width() + shortcutInset : 0;
+    return rowWidth - titleX - shortcutInset - shortcutWidth;
+}
+
+std::vector<std::string> DFKitMenuRow::titleLines(double rowWidth) const {
+    std::vector<std::string> lines;
+    if (wraps_) lines = title_.wrapped(titleWidth(rowWidth));
+    if (lines.size() <= 1) return {title_.fitted(titleWidth(rowWidth)).string};
+    return lines;
+}
+
+Size DFKitMenuRow::sizeThatFits(double) const {
+    const auto lines = static_cast<double>(titleLines(size.width).size());
+    if (lines <= 1) return size;
+    return {size.width, lines * lineHeight + 2 * wrappedInset};
+}
+
 void DFKitMenuRow::draw(Canvas& canvas, Appearance appearance) const {
     if (hovered() || pressed())
         canvas.fill(Path::roundedRect(bounds(), cornerRadius), DFKit::chip.resolved(appearance));
-    const double midY = bounds().midY();
-    drawGlyph(canvas, glyph_, {glyphX + glyphSize / 2, midY}, glyphSize,
+    const std::vector<std::string> lines = titleLines(bounds().width);
+    // The glyph stands beside the first line, as the shortcut does.
+    const double firstMidY =
+        lines.size() <= 1 ? bounds().midY() : bounds().minY() + wrappedInset + lineHeight / 2;
+    drawGlyph(canvas, glyph_, {glyphX + glyphSize / 2, firstMidY}, glyphSize,
               DFKit::ink.resolved(appearance));
-    const double shortcutWidth = shortcut_ ? shortcut_->width() + shortcutInset : 0;
-    title_.fitted(bounds().width - titleX - shortcutInset - shortcutWidth)
-        .draw(canvas, appearance, titleX, midY);
+    double midY = firstMidY;
+    for (const std::string& line : lines) {
+        DFKitText{line, title_.font, title_.color}.draw(canvas, appearance, titleX, midY);
+        midY += lineHeight;
+    }
     if (shortcut_) {
         shortcut_->draw(canvas, appearance, bounds().width - shortcutInset - shortcut_->width(),
-                        midY);
+                        firstMidY);
     }
 }
 

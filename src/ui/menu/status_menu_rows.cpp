@@ -67,10 +67,12 @@ DFKitViews StatusMenuController::offerRows() {
     DFKitViews rows;
     const auto& offer = DisplayFollower::shared().offer();
     if (!offer) return rows;
-    append<DFKitMenuRow>(
-        rows, DFKitGlyph::display, "Restore \"" + offer->name + "\" for these displays",
-        std::nullopt,
+    auto row = std::make_unique<DFKitMenuRow>(
+        DFKitGlyph::display, "Restore \"" + offer->name + "\" for these displays", std::nullopt,
         rowAction([](StatusMenuController&) { DisplayFollower::shared().acceptOffer(); }));
+    // The user decides on it by its name: it is never cut short.
+    row->setWraps(true);
+    rows.push_back(std::move(row));
     append<DFKitSeparator>(rows);
     return rows;
 }
