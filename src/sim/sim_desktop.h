@@ -144,6 +144,11 @@ class SimDesktop {
     // sleeps nothing is told; waking tells of the wake, and of any change made meanwhile.
     void plugDisplay(std::uint32_t displayID, Size size);
     void unplugDisplay(std::uint32_t displayID);
+    // Closing the laptop's lid with another display connected takes the built-in display away
+    // and makes the next one primary (with none, the Mac sleeps); opening it brings the
+    // built-in display back as the primary one, the others where they were beside it.
+    void closeLid();
+    void openLid();
     void sleep();
     void wake();
     bool asleep() const { return asleep_; }
@@ -168,6 +173,9 @@ class SimDesktop {
     void tellDisplaysChanged();
     // Moves the windows standing on the frame onto the primary display's visible area.
     void gatherWindowsFrom(Rect frame);
+    // Moves every display's AppKit frames and every window by the offsets, as when another
+    // display becomes the primary one.
+    void shiftEverything(Point appKit, Point accessibility);
 
     SimClock clock_;
     SimExecutor executor_;
@@ -210,6 +218,11 @@ class SimDesktop {
     std::vector<SimWindow> windows_;
     std::vector<ScreenDescription> screens_;
     bool asleep_ = false;
+    // The built-in display while the lid is closed, and where the new primary display stood
+    // (its AppKit and its accessibility origin) when the lid closed.
+    std::optional<ScreenDescription> lidClosed_;
+    Point closedAppKitOrigin_;
+    Point closedAccessibilityOrigin_;
     bool changedWhileAsleep_ = false;
     SimWindowId nextWindowId_ = 1;
     Pid nextPid_ = 500;

@@ -40,6 +40,50 @@ void SimDesktop::unplugDisplay(std::uint32_t displayID) {
     }
 }
 
+void SimDesktop::closeLid() {
+    if (lidClosed_) return;
+    if (screens_.size() < 2) {
+        sleep();
+        return;
+    }
+    const std::vector<Rect> frames = accessibilityScreenFrames();
+    lidClosed_ = screens_.front();
+    screens_.erase(screens_.begin());
+    closedAppKitOrigin_ = {screens_.front().frame.x, screens_.front().frame.y};
+    closedAccessibilityOrigin_ = {frames[1].x, frames[1].y};
+    shiftEverything({-closedAppKitOrigin_.x, -closedAppKitOrigin_.y},
+                    {-closedAccessibilityOrigin_.x, -closedAccessibilityOrigin_.y});
+    Rect builtIn = frames.front();
+    builtIn.x -= closedAccessibilityOrigin_.x;
+    builtIn.y -= closedAccessibilityOrigin_.y;
+    gatherWindowsFrom(builtIn);
+    tellDisplaysChanged();
+}
+
+void SimDesktop::openLid() {
+    if (!lidClosed_) {
+        if (asleep_) wake();
+        return;
+    }
+    shiftEverything(closedAppKitOrigin_, closedAccessibilityOrigin_);
+    screens_.insert(screens_.begin(), *lidClosed_);
+    lidClosed_.reset();
+    tellDisplaysChanged();
+}
+
+void SimDesktop::shiftEverything(Point appKit, Point accessibility) {
+    for (ScreenDescription& screen : screens_) {
+        screen.frame.x += appKit.x;
+        screen.frame.y += appKit.y;
+        screen.visibleFrame.x += appKit.x;
+        screen.visibleFrame.y += appKit.y;
+    }
+    for (SimWindow& window : windows_) {
+        window.frame.x += accessibility.x;
+        window.frame.y += accessibility.y;
+    }
+}
+
 void SimDesktop::sleep() {
     asleep_ = true;
 }

@@ -186,6 +186,23 @@ TEST_F(FollowDisplaysTest, WithLayoutsTurnedOffNothingIsOffered) {
     EXPECT_EQ(offered(), std::nullopt);
 }
 
+TEST_F(FollowDisplaysTest, TheLidClosedAtTheDeskIsASetOfItsOwn) {
+    plug(studio, studioSize);
+    save("Desk", {{"com.apple.Notes", "Notes", "Notes", leftHalf, std::nullopt}});
+    desktop.closeLid();
+    settle();
+    EXPECT_EQ(offered(), std::nullopt);
+    save("Lid closed", {{"com.apple.Notes", "Notes", "Notes", rightHalf, std::nullopt}});
+
+    desktop.openLid();
+    settle();
+    EXPECT_EQ(offered(), "Desk");
+
+    desktop.closeLid();
+    settle();
+    EXPECT_EQ(offered(), "Lid closed");
+}
+
 TEST_F(FollowDisplaysTest, WakingAtTheSameDisplaysDoesNothing) {
     saveAtTheDesk();
     plug(studio, studioSize);

@@ -48,6 +48,35 @@ TEST_F(SimDisplaysTest, TheWindowsOfAnUnpluggedDisplayMoveOntoThePrimaryOne) {
     EXPECT_EQ(desktop.window(onLaptop)->frame, (Rect{100, 100, 400, 300}));
 }
 
+TEST_F(SimDisplaysTest, ClosingTheLidMakesTheOtherDisplayPrimaryAndOpeningItPutsThemBack) {
+    desktop.plugDisplay(studio, studioSize);
+    const Pid pid = desktop.addApplication({0, "com.apple.Notes", "Notes"});
+    const SimWindowId onStudio = window(pid, {2000, 100, 800, 600});
+    const SimWindowId onLaptop = window(pid, {100, 100, 400, 300});
+    const auto arranged = desktop.screens();
+
+    desktop.closeLid();
+
+    ASSERT_EQ(desktop.screens().size(), 1u);
+    EXPECT_EQ(desktop.screens().front().displayID, studio);
+    EXPECT_EQ(desktop.screens().front().frame, (Rect{0, 0, 1920, 1080}));
+    EXPECT_EQ(desktop.window(onStudio)->frame, (Rect{560, 100, 800, 600}));
+    EXPECT_EQ(desktop.window(onLaptop)->frame, (Rect{100, 125, 400, 300}));
+
+    desktop.openLid();
+
+    EXPECT_EQ(desktop.screens(), arranged);
+    EXPECT_EQ(desktop.window(onStudio)->frame, (Rect{2000, 100, 800, 600}));
+}
+
+TEST_F(SimDisplaysTest, ClosingTheLidWithNoOtherDisplaySleepsAndOpeningItWakes) {
+    desktop.closeLid();
+    EXPECT_TRUE(desktop.asleep());
+    EXPECT_EQ(desktop.screens().size(), 1u);
+    desktop.openLid();
+    EXPECT_FALSE(desktop.asleep());
+}
+
 TEST_F(SimDisplaysTest, NothingIsToldWhileTheMacSleepsAndAChangeMeanwhileIsToldOnWaking) {
     desktop.sleep();
     desktop.plugDisplay(studio, studioSize);

@@ -56,6 +56,15 @@ TEST_F(SettingsModelValuesTest, AShortcutSwitchedOffWritesItsDisabledKey) {
     EXPECT_TRUE(model->isOn("shortcuts.close"));
 }
 
+TEST_F(SettingsModelValuesTest, FollowingDisplaysOffersByDefaultAndWritesTheChosenWord) {
+    EXPECT_EQ(model->choice("layouts.followDisplays"), "ask");
+    model->choose("layouts.followDisplays", "automatic");
+    EXPECT_EQ(stored(PreferenceKey::layoutsFollowDisplays), DefaultsValue("automatic"));
+    EXPECT_EQ(Settings(store).layoutsFollowDisplays(), FollowDisplaysMode::automatic);
+    model->choose("layouts.followDisplays", "off");
+    EXPECT_EQ(Settings(store).layoutsFollowDisplays(), FollowDisplaysMode::off);
+}
+
 TEST_F(SettingsModelValuesTest, ChoicesWriteTheOptionsTextValue) {
     model->choose("buttons.size", "large");
     model->choose("buttons.theme", "graphite");

@@ -2,22 +2,15 @@
 // offers it in its first row and the status item carries a dot.
 #include <gtest/gtest.h>
 
-#include "layouts/display_follower.h"
-#include "layouts/display_match.h"
-#include "layouts/layout_store.h"
+#include "display_offer.h"
 #include "settings/preference_key.h"
-#include "settings/shared.h"
 #include "sim/sim_scene.h"
 #include "status_menu_fixture.h"
 #include "ui/kit/dfkit_menu_row.h"
-#include "windows/screens.h"
 
 namespace vistrel::testing {
 namespace {
 
-constexpr std::uint32_t studio = 2;
-constexpr Size studioSize{1920, 1080};
-constexpr double settled = 5;
 constexpr const char* offerRow = "Restore \"Desk\" for these displays";
 
 class DisplayOfferRowTest : public StatusMenuTest {
@@ -30,24 +23,13 @@ class DisplayOfferRowTest : public StatusMenuTest {
     }
     void TearDown() override { DisplayFollower::shared().stop(); }
 
-    // A layout saved at the desk, with Notes on the left half of the Studio Display; the
-    // display is then unplugged and plugged in again.
-    void comeBackToTheDesk() {
-        change([this] { desktop.plugDisplay(studio, studioSize); });
-        const std::string display = Screens::snapshot().back().id;
-        SavedLayout desk{UUID::random(),
-                         "Desk",
-                         {{"com.apple.Notes", "Notes", "Notes", UnitRect{0, 0, 0.5, 1}, display}}};
-        desk.displays = DisplayMatch::displaysOf(Screens::snapshot());
-        LayoutStore::add(*Shared::store(), desk);
-        change([this] { desktop.unplugDisplay(studio); });
-        change([this] { desktop.plugDisplay(studio, studioSize); });
-    }
+    void comeBackToTheDesk() { desk.play("Desk"); }
     template <typename Change>
     void change(Change change) {
-        change();
-        desktop.executor().advance(settled);
+        desk.change(change);
     }
+
+    DeskComeback desk{desktop};
     // Whether the status item's mark carries its dot: a second shape beside the mark.
     bool dotted() { return item().image()->all<DisplayList::Fill>().size() == 2; }
     const SimWindow& notes() {
@@ -73,7 +55,7 @@ TEST_F(DisplayOfferRowTest, TheStatusItemCarriesADotWhileTheOfferWaits) {
     EXPECT_FALSE(dotted());
     comeBackToTheDesk();
     EXPECT_TRUE(dotted());
-    change([this] { desktop.unplugDisplay(studio); });
+    change([this] { desktop.unplugDisplay(DeskComeback::studio); });
     EXPECT_FALSE(dotted());
 }
 
@@ -81,7 +63,7 @@ TEST_F(DisplayOfferRowTest, ClickingTheOfferPutsTheWindowsBackAndTakesTheRowAndT
     comeBackToTheDesk();
     open();
     clickLabelled(offerRow);
-    desktop.executor().advance(settled);
+    desktop.executor().advance(DeskComeback::settled);
 
     EXPECT_EQ(notes().frame, (Rect{1440, 25, 960, 985}));
     EXPECT_FALSE(dotted());

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "display_offer.h"
 #include "layouts/layout_store.h"
 #include "reference_image.h"
 #include "settings/preference_key.h"
@@ -99,6 +100,16 @@ TEST_F(StatusPanelImageTest, CrowdedOnASmallDisplayMatchesReference) {
         if (auto* layouts = dynamic_cast<DFKitScrollView*>(row.get())) layouts->scrollBy(40);
     }
     EXPECT_TRUE(matchesReference(picture(Appearance::light), "status_panel_crowded_small_display"));
+}
+
+// Back at the desk: the layout saved there is offered above everything else, its long name
+// wrapped.
+TEST_F(StatusPanelImageTest, ALayoutOfferedForTheDisplaysMatchesReference) {
+    saveLayouts(2);
+    DisplayFollower::shared().start();
+    DeskComeback(desktop).play("Everything at once, side by side on the big screen");
+    EXPECT_TRUE(matchesReference(picture(Appearance::light), "status_panel_display_offer"));
+    DisplayFollower::shared().stop();
 }
 
 TEST_F(StatusPanelImageTest, NoSavedLayoutsMatchesReference) {
