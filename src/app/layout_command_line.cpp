@@ -1,0 +1,135 @@
+#include "app/layout_command_line.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <utility>
+
+#include "layouts/layout_requests.h"
+#include "layouts/uuid.h"
+#include "platform/platform.h"
+#include "settings/shared.h"
+
+namespace vistrel {
+
+namespace {
+
+using Command = CommandChannel::Command;
+
+struct Option {
+    std::string_view argument;
+    Command command;
+    bool takesName;
+};
+
+constexpr std::array options{
+    Option{LayoutCommandLine::applyArgument, Command::applyLayout, true},
+    Option{LayoutCommandLine::saveArgument, Command::saveLayout, true},
+    Option{LayoutCommandLine::listArgument, Command::listLayouts, false},
+};
+
+const Option& optionOf(Command command) {
+    return *std::ranges::find(options, command, &Option::command);
+}
+
+LayoutCommandLine::Result failure(std::string reason) {
+    return {1, {}, std::move(reason)};
+}
+
+// One request to the agent, waiting for its answer: `finish` lets only the first outcome
+// through, so a late answer after a time-out, or a time-out after the answer, does nothing.
+class Conversation : public std::enable_shared_from_this<Conversation> {
+  public:
+    Conversation(LayoutCommandLine::Done done) : done_(std::move(done)) {}
+
+    void begin(const LayoutCommandLine::Invocation& invocation) {
+        Platform& p = platform();
+        std::weak_ptr<Conversation> weak = shared_from_this();
+        // The observer lives as long as the process; it holds the conversation weakly.
+        keep_ = shared_from_this();
+        p.notifications.observe(std::string(CommandChannel::replyName),
+                                [weak](const NotificationCenter::UserInfo& userInfo) {
+                                    if (auto self = weak.lock()) self->heard(userInfo);
+                                });
+        p.notifications.post(std::string(Shared::Command::name),
+                             CommandChannel::layoutCommand(invocation.command,
+                                                           invocation.name.value_or(""), id_));
+        waitFor(LayoutCommandLine::acceptTimeout, LayoutCommandLine::notAnswering, 0);
+    }
+
+  private:
+    void heard(const NotificationCenter::UserInfo& userInfo) {
+        const auto reply = CommandChannel::parseReply(userInfo);
+        if (!reply || reply->reply != id_) return;
+        if (!reply->answer) {
+            if (stage_ == 0) {
+                stage_ = 1;
+                waitFor(LayoutCommandLine::doneTimeout, LayoutCommandLine::notFinished, 1);
+            }
+            return;
+        }
+        const CommandChannel::Answer& answer = *reply->answer;
+        if (!answer.ok) return finish(failure(answer.message));
+        std::vector<std::string> lines = answer.names;
+        if (!answer.message.empty()) lines.push_back(answer.message);
+        finish({0, std::move(lines), {}});
+    }
+
+    // Gives up with `reason` after `seconds` unless the conversation has moved past `stage`.
+    void waitFor(double seconds, std::string_view reason, int stage) {
+        std::weak_ptr<Conversation> weak = shared_from_this();
+        platform().executor.main().after(seconds, [weak, reason, stage] {
+            auto self = weak.lock();
+            if (self && self->stage_ == stage) self->finish(failure(std::string(reason)));
+        });
+    }
+
+    void finish(LayoutCommandLine::Result result) {
+        if (!keep_) return;
+        auto self = std::move(keep_);
+        done_(std::move(result));
+    }
+
+    LayoutCommandLine::Done done_;
+    std::string id_ = UUID::random().string();
+    int stage_ = 0;  // 0: posted, 1: accepted
+    std::shared_ptr<Conversation> keep_;
+};
+
+}  // namespace
+
+std::optional<LayoutCommandLine::Invocation> LayoutCommandLine::requested(
+    const std::vector<std::string>& arguments) {
+    for (auto at = arguments.begin(); at != arguments.end(); ++at) {
+        const auto option = std::ranges::find(options, *at, &Option::argument);
+        if (option == options.end()) continue;
+        Invocation invocation{option->command, std::nullopt};
+        if (option->takesName && std::next(at) != arguments.end()) invocation.name = *std::next(at);
+        return invocation;
+    }
+    return std::nullopt;
+}
+
+bool LayoutCommandLine::agentRunning() {
+    Workspace& workspace = platform().workspace;
+    const std::string identifier =
+        workspace.mainBundle().identifier.value_or(std::string(Shared::domain));
+    const Pid own = workspace.ownPid();
+    return std::ranges::any_of(workspace.runningApplications(), [&](const RunningApplication& a) {
+        return a.bundleIdentifier == identifier && a.pid != own && !a.terminated;
+    });
+}
+
+void LayoutCommandLine::start(const Invocation& invocation, Done done) {
+    const Option& option = optionOf(invocation.command);
+    if (option.takesName && !invocation.name) {
+        return done(failure(std::string(option.argument) + " needs a layout's name"));
+    }
+    if (!agentRunning()) {
+        if (invocation.command == Command::listLayouts) return done({0, LayoutRequests::names(), {}});
+        return done(failure(std::string(notRunning)));
+    }
+    std::make_shared<Conversation>(std::move(done))->begin(invocation);
+}
+
+}  // namespace vistrel
