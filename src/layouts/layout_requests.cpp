@@ -32,8 +32,8 @@ std::string quoted(std::string_view name) {
     return text;
 }
 
-// The length of the UTF-8 sequence starting with `lead`; 0 for a byte that starts none.
-// Overlong forms and surrogates are left to the length check's companions below.
+// The length of the UTF-8 sequence starting with `lead`; 0 for a byte that starts none (a
+// continuation byte, the overlong leads 0xC0 and 0xC1, or a lead past U+10FFFF's).
 std::size_t sequenceLength(std::uint8_t lead) {
     if (lead < continuationBits) return 1;
     if (lead < twoByteLead) return 0;
@@ -59,6 +59,10 @@ bool validUTF8(std::string_view text, bool& control) {
         i += length;
     }
     return true;
+}
+
+std::string windowCount(std::size_t count) {
+    return std::to_string(count) + (count == 1 ? " window" : " windows");
 }
 
 void finish(const LayoutRequests::Done& done, bool ok, std::string message) {
@@ -143,11 +147,12 @@ void LayoutRequests::save(const std::string& name, std::string_view from, Done d
         if (!keepNamed(*Shared::store(), *layout, replaced)) {
             return finish(done, false, "the layout could not be saved");
         }
-        const std::string count = std::to_string(layout->windows.size());
-        Log::info("layouts: saved the current windows as " + quoted(name) + " (" + count + ") " +
-                  from + (replaced ? ", in place of the layout of that name" : ""));
+        const std::size_t count = layout->windows.size();
+        Log::info("layouts: saved the current windows as " + quoted(name) + " (" +
+                  std::to_string(count) + ") " + from +
+                  (replaced ? ", in place of the layout of that name" : ""));
         finish(done, true,
-               (replaced ? "replaced " : "saved ") + quoted(name) + ", " + count + " windows");
+               (replaced ? "replaced " : "saved ") + quoted(name) + ", " + windowCount(count));
     });
 }
 
