@@ -51,9 +51,9 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
                                 [weak](const NotificationCenter::UserInfo& userInfo) {
                                     if (auto self = weak.lock()) self->heard(userInfo);
                                 });
-        p.notifications.post(std::string(Shared::Command::name),
-                             CommandChannel::layoutCommand(invocation.command,
-                                                           invocation.name.value_or(""), id_));
+        p.notifications.post(
+            std::string(Shared::Command::name),
+            CommandChannel::layoutCommand(invocation.command, invocation.name.value_or(""), id_));
         waitFor(LayoutCommandLine::acceptTimeout, LayoutCommandLine::notAnswering, 0);
     }
 
@@ -126,7 +126,8 @@ void LayoutCommandLine::start(const Invocation& invocation, Done done) {
         return done(failure(std::string(option.argument) + " needs a layout's name"));
     }
     if (!agentRunning()) {
-        if (invocation.command == Command::listLayouts) return done({0, LayoutRequests::names(), {}});
+        if (invocation.command == Command::listLayouts)
+            return done({0, LayoutRequests::names(), {}});
         return done(failure(std::string(notRunning)));
     }
     std::make_shared<Conversation>(std::move(done))->begin(invocation);

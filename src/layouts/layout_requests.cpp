@@ -139,28 +139,29 @@ void LayoutRequests::apply(const std::string& name, std::string_view from, Done 
 
 void LayoutRequests::save(const std::string& name, std::string_view from, Done done) {
     if (auto problem = nameProblem(name)) return refuse(done, *problem, from);
-    LayoutActions::captureCurrent([name, from = std::string(from),
-                                   done](std::optional<SavedLayout> layout) {
-        if (!layout) return refuse(done, "no windows to save as " + quoted(name), from);
-        layout->name = name;
-        bool replaced = false;
-        if (!keepNamed(*Shared::store(), *layout, replaced)) {
-            return finish(done, false, "the layout could not be saved");
-        }
-        const std::size_t count = layout->windows.size();
-        Log::info("layouts: saved the current windows as " + quoted(name) + " (" +
-                  std::to_string(count) + ") " + from +
-                  (replaced ? ", in place of the layout of that name" : ""));
-        finish(done, true,
-               (replaced ? "replaced " : "saved ") + quoted(name) + ", " + windowCount(count));
-    });
+    LayoutActions::captureCurrent(
+        [name, from = std::string(from), done](std::optional<SavedLayout> layout) {
+            if (!layout) return refuse(done, "no windows to save as " + quoted(name), from);
+            layout->name = name;
+            bool replaced = false;
+            if (!keepNamed(*Shared::store(), *layout, replaced)) {
+                return finish(done, false, "the layout could not be saved");
+            }
+            const std::size_t count = layout->windows.size();
+            Log::info("layouts: saved the current windows as " + quoted(name) + " (" +
+                      std::to_string(count) + ") " + from +
+                      (replaced ? ", in place of the layout of that name" : ""));
+            finish(done, true,
+                   (replaced ? "replaced " : "saved ") + quoted(name) + ", " + windowCount(count));
+        });
 }
 
 void LayoutRequests::undo(std::string_view from, Done done) {
-    LayoutActions::undo([from = std::string(from), done](std::optional<LayoutUndo::Outcome> outcome) {
-        if (!outcome) return refuse(done, "nothing to undo", from);
-        finish(done, true, outcome->message());
-    });
+    LayoutActions::undo(
+        [from = std::string(from), done](std::optional<LayoutUndo::Outcome> outcome) {
+            if (!outcome) return refuse(done, "nothing to undo", from);
+            finish(done, true, outcome->message());
+        });
 }
 
 }  // namespace vistrel

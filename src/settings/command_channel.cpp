@@ -19,7 +19,7 @@ using Command = CommandChannel::Command;
 using Dictionary = DefaultsValue::Dictionary;
 
 constexpr std::array<Command, CommandChannel::commandCount> commands{
-    Command::applySettings, Command::requestAccessibility, Command::setLaunchAtLogin,
+    Command::applySettings,   Command::requestAccessibility, Command::setLaunchAtLogin,
     Command::checkForUpdates, Command::applyLayout,          Command::saveLayout,
     Command::listLayouts};
 
@@ -47,8 +47,7 @@ std::optional<std::vector<std::string>> names(const Dictionary& entries) {
 }
 
 void postReply(Dictionary entries) {
-    platform().notifications.post(std::string(CommandChannel::replyName),
-                                  std::move(entries));
+    platform().notifications.post(std::string(CommandChannel::replyName), std::move(entries));
 }
 
 }  // namespace
@@ -170,7 +169,8 @@ void CommandChannel::perform(const Request& request) {
 
 void CommandChannel::performLayoutCommand(const Request& request) {
     if (!layouts_) return answer(request.reply, {false, std::string(unavailable), {}});
-    postReply({{std::string(replyKey), request.reply}, {std::string(stateKey), std::string(accepted)}});
+    postReply(
+        {{std::string(replyKey), request.reply}, {std::string(stateKey), std::string(accepted)}});
     layouts_(request);
 }
 

@@ -39,7 +39,8 @@ class LayoutCommandLineTest : public testing::LayoutActionsTest {
         if (agent == Agent::running) {
             channel_ = std::make_unique<CommandChannel>([] {}, LayoutCommands::perform);
         } else if (agent == Agent::acceptsButNeverFinishes) {
-            channel_ = std::make_unique<CommandChannel>([] {}, [](const CommandChannel::Request&) {});
+            channel_ =
+                std::make_unique<CommandChannel>([] {}, [](const CommandChannel::Request&) {});
         }
         if (channel_) channel_->listen();
     }
@@ -61,8 +62,9 @@ class LayoutCommandLineTest : public testing::LayoutActionsTest {
     }
 
     void store(const std::string& name) {
-        LayoutStore::add(*Shared::store(),
-                         layoutOf({{"com.apple.Notes", "Notes", "Notes", leftHalf, std::nullopt}}, name));
+        LayoutStore::add(
+            *Shared::store(),
+            layoutOf({{"com.apple.Notes", "Notes", "Notes", leftHalf, std::nullopt}}, name));
     }
     std::vector<std::string> storedNames() {
         std::vector<std::string> names;
@@ -102,7 +104,8 @@ TEST_F(LayoutCommandLineTest, ApplyWithAnUnknownNameExitsOneSayingWhy) {
     startAgent(Agent::running);
     const Rect before = window("Notes").frame;
 
-    EXPECT_EQ(run({"Vistrel", "--apply-layout", "desk"}), (Result{1, {}, "no layout named \"desk\""}));
+    EXPECT_EQ(run({"Vistrel", "--apply-layout", "desk"}),
+              (Result{1, {}, "no layout named \"desk\""}));
     EXPECT_EQ(window("Notes").frame, before);
 }
 
@@ -110,7 +113,8 @@ TEST_F(LayoutCommandLineTest, SaveStoresTheCurrentWindowsInTheRunningAgent) {
     store("Desk");
     startAgent(Agent::running);
 
-    EXPECT_EQ(run({"Vistrel", "--save-layout", "Evening"}), (Result{0, {"saved \"Evening\", 6 windows"}, ""}));
+    EXPECT_EQ(run({"Vistrel", "--save-layout", "Evening"}),
+              (Result{0, {"saved \"Evening\", 6 windows"}, ""}));
     EXPECT_EQ(storedNames(), (Arguments{"Desk", "Evening"}));
 }
 
@@ -122,8 +126,10 @@ TEST_F(LayoutCommandLineTest, SaveWithAnEmptyNameExitsOne) {
 
 TEST_F(LayoutCommandLineTest, AnOptionWithoutItsNameExitsOneWithoutAskingTheAgent) {
     startAgent(Agent::running);
-    EXPECT_EQ(run({"Vistrel", "--apply-layout"}), (Result{1, {}, "--apply-layout needs a layout's name"}));
-    EXPECT_EQ(run({"Vistrel", "--save-layout"}), (Result{1, {}, "--save-layout needs a layout's name"}));
+    EXPECT_EQ(run({"Vistrel", "--apply-layout"}),
+              (Result{1, {}, "--apply-layout needs a layout's name"}));
+    EXPECT_EQ(run({"Vistrel", "--save-layout"}),
+              (Result{1, {}, "--save-layout needs a layout's name"}));
     EXPECT_TRUE(desktop.notifications().posted.empty());
 }
 
@@ -133,7 +139,8 @@ TEST_F(LayoutCommandLineTest, ListPrintsTheAgentsLayoutsOneALineInOrder) {
     store("Desk");
     startAgent(Agent::running);
 
-    EXPECT_EQ(run({"Vistrel", "--list-layouts"}), (Result{0, {"Desk", "Writing Desk", "Desk"}, ""}));
+    EXPECT_EQ(run({"Vistrel", "--list-layouts"}),
+              (Result{0, {"Desk", "Writing Desk", "Desk"}, ""}));
     EXPECT_EQ(desktop.notifications().posted.front().first, "com.quillmarsh.vistrel.command");
 }
 
@@ -156,8 +163,10 @@ TEST_F(LayoutCommandLineTest, WithNoAgentApplyAndSaveSayVistrelIsNotRunning) {
     startAgent(Agent::notRunning);
     const Rect before = window("Notes").frame;
 
-    EXPECT_EQ(run({"Vistrel", "--apply-layout", "Desk"}), (Result{1, {}, "Vistrel is not running"}));
-    EXPECT_EQ(run({"Vistrel", "--save-layout", "Evening"}), (Result{1, {}, "Vistrel is not running"}));
+    EXPECT_EQ(run({"Vistrel", "--apply-layout", "Desk"}),
+              (Result{1, {}, "Vistrel is not running"}));
+    EXPECT_EQ(run({"Vistrel", "--save-layout", "Evening"}),
+              (Result{1, {}, "Vistrel is not running"}));
     EXPECT_EQ(window("Notes").frame, before);
     EXPECT_EQ(storedNames(), (Arguments{"Desk"}));
 }
@@ -171,7 +180,8 @@ TEST_F(LayoutCommandLineTest, TheCommandLineDoesNotTakeItselfForTheAgent) {
     desktop.addApplication(self);
 
     EXPECT_FALSE(LayoutCommandLine::agentRunning());
-    EXPECT_EQ(run({"Vistrel", "--apply-layout", "Desk"}), (Result{1, {}, "Vistrel is not running"}));
+    EXPECT_EQ(run({"Vistrel", "--apply-layout", "Desk"}),
+              (Result{1, {}, "Vistrel is not running"}));
 }
 
 TEST_F(LayoutCommandLineTest, AnAgentThatHasQuitDoesNotCountAsRunning) {

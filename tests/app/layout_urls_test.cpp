@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "app/app_delegate.h"
-#include "layouts/layout_url.h"
 #include "layouts/layout_actions_test.h"
 #include "layouts/layout_store.h"
+#include "layouts/layout_url.h"
 #include "settings/preference_key.h"
 
 namespace vistrel {

@@ -108,11 +108,11 @@ inline bool dispatchKeepsItsPromise(const NotificationCenter::UserInfo& userInfo
 
     const auto& posted = desktop.notifications().posted;
     const bool replied = posted.size() > 1;
-    const bool acted =
-        applied > 0 || !layouts.empty() || replied || desktop.trustPrompts > 0 ||
-        !desktop.workspace().openedURLs.empty() || desktop.application().activations() > 0 ||
-        !desktop.systemLog().lines().empty() ||
-        desktop.loginItem().status() != LoginItemStatus::notRegistered;
+    const bool acted = applied > 0 || !layouts.empty() || replied || desktop.trustPrompts > 0 ||
+                       !desktop.workspace().openedURLs.empty() ||
+                       desktop.application().activations() > 0 ||
+                       !desktop.systemLog().lines().empty() ||
+                       desktop.loginItem().status() != LoginItemStatus::notRegistered;
     const auto request = CommandChannel::parse(userInfo);
     if (!request) return !acted;
     if (userInfo->at("command").string() != CommandChannel::name(request->command)) return false;

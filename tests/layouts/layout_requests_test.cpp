@@ -33,10 +33,12 @@ class LayoutRequestsTest : public testing::LayoutActionsTest {
     std::vector<SavedLayout> stored() { return LayoutStore::load(*Shared::store()); }
 
     Outcome apply(const std::string& name) {
-        return completed([&](LayoutRequests::Done done) { LayoutRequests::apply(name, from, done); });
+        return completed(
+            [&](LayoutRequests::Done done) { LayoutRequests::apply(name, from, done); });
     }
     Outcome save(const std::string& name) {
-        return completed([&](LayoutRequests::Done done) { LayoutRequests::save(name, from, done); });
+        return completed(
+            [&](LayoutRequests::Done done) { LayoutRequests::save(name, from, done); });
     }
     Outcome undo() {
         return completed([&](LayoutRequests::Done done) { LayoutRequests::undo(from, done); });
@@ -135,7 +137,8 @@ TEST_F(LayoutRequestsTest, SaveWithNoWindowsIsRefusedAndStoresNothing) {
 
     EXPECT_EQ(save("Empty"), (Outcome{false, "no windows to save as \"Empty\""}));
     EXPECT_TRUE(stored().empty());
-    EXPECT_EQ(log().back(), "layouts: refused a request from a test: no windows to save as \"Empty\"");
+    EXPECT_EQ(log().back(),
+              "layouts: refused a request from a test: no windows to save as \"Empty\"");
 }
 
 TEST_F(LayoutRequestsTest, SaveOnAFullDiskSaysTheLayoutWasNotSaved) {
@@ -144,8 +147,8 @@ TEST_F(LayoutRequestsTest, SaveOnAFullDiskSaysTheLayoutWasNotSaved) {
 }
 
 TEST_F(LayoutRequestsTest, NamesThatCannotNameALayoutAreRefusedBeforeAnythingIsDone) {
-    for (const std::string& name : {std::string(), std::string("a\nb"), std::string("\xFF"),
-                                    std::string("a\0b", 3)}) {
+    for (const std::string& name :
+         {std::string(), std::string("a\nb"), std::string("\xFF"), std::string("a\0b", 3)}) {
         const auto lines = log().size();
         EXPECT_FALSE(save(name).ok);
         EXPECT_FALSE(apply(name).ok);

@@ -140,9 +140,10 @@ TEST(LayoutURL, ANameWithAControlCharacterIsRefused) {
 }
 
 TEST(LayoutURL, CharactersAURLCannotHoldAreRefused) {
-    for (const char* text : {"vistrel://layout/apply?name=Writing Desk",
-                             "vistrel://layout/apply?name=Caf\xC3\xA9", "vistrel://layout/undo\n",
-                             "vistrel://layout/apply?name=\"Desk\"", "vistrel://layout/apply?name=<b>"}) {
+    for (const char* text :
+         {"vistrel://layout/apply?name=Writing Desk", "vistrel://layout/apply?name=Caf\xC3\xA9",
+          "vistrel://layout/undo\n", "vistrel://layout/apply?name=\"Desk\"",
+          "vistrel://layout/apply?name=<b>"}) {
         EXPECT_EQ(refusal(text), "a character not allowed in a URL") << text;
     }
 }

@@ -35,7 +35,8 @@ class CommandChannelLayoutTest : public testing::SimTest {
     }
 
     std::vector<CommandChannel::Request> handled;
-    CommandChannel channel{[] {}, [this](const CommandChannel::Request& r) { handled.push_back(r); }};
+    CommandChannel channel{[] {},
+                           [this](const CommandChannel::Request& r) { handled.push_back(r); }};
 };
 
 TEST_F(CommandChannelLayoutTest, TheLayoutCommandsHaveTheirExactNames) {
@@ -61,8 +62,8 @@ TEST_F(CommandChannelLayoutTest, ALayoutCommandWithoutAReplyIdentifierIsDroppedS
 }
 
 TEST_F(CommandChannelLayoutTest, ANameThatIsNotTextArrivesEmptyForTheHandlerToRefuse) {
-    const auto request = CommandChannel::parse(
-        Dictionary{{"command", "saveLayout"}, {"name", DefaultsValue::Array{"Desk"}}, {"reply", "r"}});
+    const auto request = CommandChannel::parse(Dictionary{
+        {"command", "saveLayout"}, {"name", DefaultsValue::Array{"Desk"}}, {"reply", "r"}});
     ASSERT_TRUE(request);
     EXPECT_EQ(request->name, "");
 }
@@ -111,8 +112,9 @@ TEST_F(CommandChannelLayoutTest, MalformedRepliesAreNotRead) {
 }
 
 TEST_F(CommandChannelLayoutTest, AReplyWithoutMessageOrNamesReadsThemAsEmpty) {
-    EXPECT_EQ(CommandChannel::parseReply(Dictionary{{"reply", "r"}, {"state", "done"}, {"ok", true}}),
-              (Reply{"r", Answer{true, "", {}}}));
+    EXPECT_EQ(
+        CommandChannel::parseReply(Dictionary{{"reply", "r"}, {"state", "done"}, {"ok", true}}),
+        (Reply{"r", Answer{true, "", {}}}));
 }
 
 }  // namespace

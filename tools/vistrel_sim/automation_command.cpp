@@ -98,7 +98,8 @@ class AutomationSession {
     bool applyByURL() {
         agent_->statusMenu()->clicked();
         open("vistrel://layout/apply?name=Morning");
-        return near(frameOf("Notes"), morningNotes_) || rig_.fail("Notes is not where Morning has it");
+        return near(frameOf("Notes"), morningNotes_) ||
+               rig_.fail("Notes is not where Morning has it");
     }
 
     bool applyByCommand() {
@@ -108,7 +109,8 @@ class AutomationSession {
 
     bool undoByURL() {
         open("vistrel://layout/undo");
-        return near(frameOf("Notes"), morningNotes_) || rig_.fail("the undo did not put Notes back");
+        return near(frameOf("Notes"), morningNotes_) ||
+               rig_.fail("the undo did not put Notes back");
     }
 
     bool refused() {
@@ -166,7 +168,8 @@ class AutomationSession {
         if (!result) return rig_.fail("the command line never finished");
         for (const std::string& output : result->lines)
             rig_.out() << "    " << output << "\n";
-        if (!result->reason.empty()) rig_.out() << "    (to standard error) " << result->reason << "\n";
+        if (!result->reason.empty())
+            rig_.out() << "    (to standard error) " << result->reason << "\n";
         rig_.out() << "    exit " << result->status << "\n";
         lastLines_ = result->lines;
         lastReason_ = result->reason;

@@ -73,11 +73,10 @@ namespace {
         if (!result.reason.empty()) std::cerr << result.reason << std::endl;
         std::exit(result.status);
     });
-    NSTimer* keepAlive =
-        [NSTimer timerWithTimeInterval:vistrel::LayoutCommandLine::doneTimeout
-                               repeats:YES
-                                 block:^(NSTimer*){
-                                 }];
+    NSTimer* keepAlive = [NSTimer timerWithTimeInterval:vistrel::LayoutCommandLine::doneTimeout
+                                                repeats:YES
+                                                  block:^(NSTimer*){
+                                                  }];
     [[NSRunLoop mainRunLoop] addTimer:keepAlive forMode:NSRunLoopCommonModes];
     CFRunLoopRun();
     std::exit(EXIT_FAILURE);
