@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/app_delegate.h"
@@ -190,13 +191,9 @@ class AutomationSession {
     }
 
     void launch() {
-        SimDesktop& desktop = rig_.desktop();
-        agentPid_ = desktop.addApplication(
-            SimApplication{.bundleIdentifier = *desktop.bundle.identifier, .name = "Vistrel"});
-        agent_ = std::make_unique<AppDelegate>();
-        agent_->applicationDidFinishLaunching();
-        desktop.executor().advance(settle);
-        if (agent_->engine() != nullptr) rig_.watch(*agent_->engine());
+        SessionRig::Agent agent = rig_.launchAgent(settle);
+        agent_ = std::move(agent.delegate);
+        agentPid_ = agent.pid;
     }
 
     void quit() {
