@@ -36,8 +36,8 @@ LayoutCommandLine::Result failure(std::string reason) {
     return {1, {}, std::move(reason)};
 }
 
-// One request to the agent, waiting for its answer: `finish` lets only the first outcome
-// through, so a late answer after a time-out, or a time-out after the answer, does nothing.
+// One request to the agent, waiting for its answer. It keeps itself alive until the first
+// outcome, so a late answer after a time-out, or a time-out after the answer, finds nothing.
 class Conversation : public std::enable_shared_from_this<Conversation> {
   public:
     Conversation(LayoutCommandLine::Done done) : done_(std::move(done)) {}
@@ -84,8 +84,9 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
         });
     }
 
+    // Lets the conversation go once `done` has run: the observer and the timers hold it
+    // weakly, so nothing reaches it afterwards.
     void finish(LayoutCommandLine::Result result) {
-        if (!keep_) return;
         auto self = std::move(keep_);
         done_(std::move(result));
     }
