@@ -7,6 +7,7 @@
 #include "base/log.h"
 #include "layouts/layout_actions.h"
 #include "layouts/layout_store.h"
+#include "platform/platform.h"
 #include "settings/shared.h"
 
 namespace vistrel {
@@ -61,6 +62,9 @@ bool validUTF8(std::string_view text, bool& control) {
     return true;
 }
 
+// Without the grant no window can be read or moved: saying so beats "no windows".
+constexpr std::string_view noGrant = "Vistrel has no Accessibility permission";
+
 std::string windowCount(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " window" : " windows");
 }
@@ -102,6 +106,12 @@ bool keepNamed(DefaultsStore& store, SavedLayout layout, bool& replaced) {
 
 }  // namespace
 
+std::optional<std::string> LayoutRequests::problem(std::string_view name) {
+    if (auto problem = nameProblem(name)) return problem;
+    if (!platform().accessibility.isProcessTrusted()) return std::string(noGrant);
+    return std::nullopt;
+}
+
 std::optional<std::string> LayoutRequests::nameProblem(std::string_view name) {
     if (name.empty()) return "no name given";
     bool control = false;
@@ -122,7 +132,7 @@ std::vector<std::string> LayoutRequests::names() {
 }
 
 void LayoutRequests::apply(const std::string& name, std::string_view from, Done done) {
-    if (auto problem = nameProblem(name)) return refuse(done, *problem, from);
+    if (auto why = problem(name)) return refuse(done, *why, from);
     const auto layout = firstNamed(LayoutStore::load(*Shared::store()), name);
     if (!layout) return refuse(done, "no layout named " + quoted(name), from);
     Log::info("layouts: restoring " + quoted(name) + " " + std::string(from));
@@ -138,7 +148,7 @@ void LayoutRequests::apply(const std::string& name, std::string_view from, Done 
 }
 
 void LayoutRequests::save(const std::string& name, std::string_view from, Done done) {
-    if (auto problem = nameProblem(name)) return refuse(done, *problem, from);
+    if (auto why = problem(name)) return refuse(done, *why, from);
     LayoutActions::captureCurrent(
         [name, from = std::string(from), done](std::optional<SavedLayout> layout) {
             if (!layout) return refuse(done, "no windows to save as " + quoted(name), from);
@@ -157,6 +167,8 @@ void LayoutRequests::save(const std::string& name, std::string_view from, Done d
 }
 
 void LayoutRequests::undo(std::string_view from, Done done) {
+    if (!platform().accessibility.isProcessTrusted())
+        return refuse(done, std::string(noGrant), from);
     LayoutActions::undo(
         [from = std::string(from), done](std::optional<LayoutUndo::Outcome> outcome) {
             if (!outcome) return refuse(done, "nothing to undo", from);

@@ -27,6 +27,9 @@ struct LayoutRequests {
     // (which would break the log's lines and the listing's); nothing when it can.
     static std::optional<std::string> nameProblem(std::string_view name);
 
+    // Why a request for a layout of that name cannot be carried out: the name's problem, or
+    // no Accessibility grant; nothing when it can.
+    static std::optional<std::string> problem(std::string_view name);
     // The one log line of a request refused: "layouts: refused a request <from>: <reason>".
     static void logRefusal(std::string_view from, const std::string& reason);
 

@@ -173,6 +173,18 @@ TEST_F(LayoutRequestsTest, UndoWithNothingToUndoIsRefusedWithOneLogLine) {
     EXPECT_EQ(log().back(), "layouts: refused a request from a test: nothing to undo");
 }
 
+TEST_F(LayoutRequestsTest, WithoutTheAccessibilityGrantEachRequestSaysSoAndDoesNothing) {
+    store(notesLeft("Desk"));
+    desktop.trusted = false;
+    const Outcome refused{false, "Vistrel has no Accessibility permission"};
+    EXPECT_EQ(apply("Desk"), refused);
+    EXPECT_EQ(save("Evening"), refused);
+    EXPECT_EQ(undo(), refused);
+    EXPECT_EQ(stored().size(), 1u);
+    EXPECT_EQ(log().back(),
+              "layouts: refused a request from a test: Vistrel has no Accessibility permission");
+}
+
 TEST_F(LayoutRequestsTest, NamesListsTheSavedLayoutsInTheirOrder) {
     store(notesLeft("Desk"));
     store(notesLeft("Writing"));
