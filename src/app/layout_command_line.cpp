@@ -33,14 +33,18 @@ const Option& optionOf(Command command) {
 }
 
 LayoutCommandLine::Result failure(std::string reason) {
-    return {1, {}, std::move(reason)};
+    return {LayoutCommandLine::failed, {}, std::move(reason)};
+}
+
+LayoutCommandLine::Result success(std::vector<std::string> lines) {
+    return {LayoutCommandLine::succeeded, std::move(lines), {}};
 }
 
 // One request to the agent, waiting for its answer. It keeps itself alive until the first
 // outcome, so a late answer after a time-out, or a time-out after the answer, finds nothing.
 class Conversation : public std::enable_shared_from_this<Conversation> {
   public:
-    Conversation(LayoutCommandLine::Done done) : done_(std::move(done)) {}
+    explicit Conversation(LayoutCommandLine::Done done) : done_(std::move(done)) {}
 
     void begin(const LayoutCommandLine::Invocation& invocation) {
         Platform& p = platform();
@@ -54,17 +58,20 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
         p.notifications.post(
             std::string(Shared::Command::name),
             CommandChannel::layoutCommand(invocation.command, invocation.name.value_or(""), id_));
-        waitFor(LayoutCommandLine::acceptTimeout, LayoutCommandLine::notAnswering, 0);
+        waitFor(LayoutCommandLine::acceptTimeout, LayoutCommandLine::notAnswering, Stage::posted);
     }
 
   private:
+    enum class Stage { posted, accepted };
+
     void heard(const NotificationCenter::UserInfo& userInfo) {
         const auto reply = CommandChannel::parseReply(userInfo);
         if (!reply || reply->reply != id_) return;
         if (!reply->answer) {
-            if (stage_ == 0) {
-                stage_ = 1;
-                waitFor(LayoutCommandLine::doneTimeout, LayoutCommandLine::notFinished, 1);
+            if (stage_ == Stage::posted) {
+                stage_ = Stage::accepted;
+                waitFor(LayoutCommandLine::doneTimeout, LayoutCommandLine::notFinished,
+                        Stage::accepted);
             }
             return;
         }
@@ -72,11 +79,11 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
         if (!answer.ok) return finish(failure(answer.message));
         std::vector<std::string> lines = answer.names;
         if (!answer.message.empty()) lines.push_back(answer.message);
-        finish({0, std::move(lines), {}});
+        finish(success(std::move(lines)));
     }
 
     // Gives up with `reason` after `seconds` unless the conversation has moved past `stage`.
-    void waitFor(double seconds, std::string_view reason, int stage) {
+    void waitFor(double seconds, std::string_view reason, Stage stage) {
         std::weak_ptr<Conversation> weak = shared_from_this();
         platform().executor.main().after(seconds, [weak, reason, stage] {
             auto self = weak.lock();
@@ -93,7 +100,7 @@ class Conversation : public std::enable_shared_from_this<Conversation> {
 
     LayoutCommandLine::Done done_;
     std::string id_ = UUID::random().string();
-    int stage_ = 0;  // 0: posted, 1: accepted
+    Stage stage_ = Stage::posted;
     std::shared_ptr<Conversation> keep_;
 };
 
@@ -128,7 +135,7 @@ void LayoutCommandLine::start(const Invocation& invocation, Done done) {
     }
     if (!agentRunning()) {
         if (invocation.command == Command::listLayouts)
-            return done({0, LayoutRequests::names(), {}});
+            return done(success(LayoutRequests::names()));
         return done(failure(std::string(notRunning)));
     }
     std::make_shared<Conversation>(std::move(done))->begin(invocation);

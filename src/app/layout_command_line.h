@@ -34,10 +34,13 @@ struct LayoutCommandLine {
         friend bool operator==(const Invocation&, const Invocation&) = default;
     };
 
-    // What the process prints and its exit status: 0 with the lines for standard output,
-    // or 1 with one line saying why for standard error.
+    static constexpr int succeeded = 0;
+    static constexpr int failed = 1;
+
+    // What the process prints and its exit status: succeeded with the lines for standard
+    // output, or failed with one line saying why for standard error.
     struct Result {
-        int status = 0;
+        int status = succeeded;
         std::vector<std::string> lines;
         std::string reason;
 
