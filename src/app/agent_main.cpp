@@ -18,6 +18,9 @@ int AgentMain::run(std::ostream& out, const Runners& runners) {
     if (auto request = MissionControlCapture::requested(arguments)) {
         return runners.capture(*request);
     }
+    if (auto invocation = LayoutCommandLine::requested(arguments)) {
+        return runners.layoutCommand(*invocation);
+    }
     return runners.application();
 }
 

@@ -1,6 +1,9 @@
 #include "app/app_delegate.h"
 
+#include <utility>
+
 #include "app/capture_report.h"
+#include "app/layout_commands.h"
 #include "app/move_to_applications.h"
 #include "base/log.h"
 #include "diagnostics/report_problem.h"
@@ -35,7 +38,7 @@ std::optional<StatusMenuController::Updater> menuUpdater() {
 
 }  // namespace
 
-AppDelegate::AppDelegate() : commands_([this] { showStatusItem(); }) {}
+AppDelegate::AppDelegate() : commands_([this] { showStatusItem(); }, LayoutCommands::perform) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -58,6 +61,17 @@ void AppDelegate::applicationDidFinishLaunching() {
     DisplayFollower::shared().start();
     Log::info(startedLine());
     Updates::start();
+    started_ = true;
+    openURLs(std::exchange(waitingURLs_, {}));
+}
+
+void AppDelegate::openURLs(const std::vector<std::string>& urls) {
+    if (!started_) {
+        waitingURLs_.insert(waitingURLs_.end(), urls.begin(), urls.end());
+        return;
+    }
+    for (const std::string& url : urls)
+        LayoutCommands::openURL(url);
 }
 
 bool AppDelegate::applicationShouldHandleReopen() {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "settings/command_channel.h"
 
@@ -35,6 +36,10 @@ class AppDelegate {
     // The user opened the agent again while it runs: brings back a hidden status item, then
     // opens the Settings app. Always true.
     bool applicationShouldHandleReopen();
+    // The system hands over URLs of the agent's scheme (application(_:open:)); those that
+    // come before start-up has finished wait for it, and a process that does not start
+    // drops them.
+    void openURLs(const std::vector<std::string>& urls);
 
     // "Vistrel <version> (<build>) started on macOS <version>, accessibility <true|false>".
     static std::string startedLine();
@@ -51,6 +56,8 @@ class AppDelegate {
     std::shared_ptr<StatusMenuController> statusMenu_;
     CommandChannel commands_;
     std::shared_ptr<Engine> engine_;
+    bool started_ = false;
+    std::vector<std::string> waitingURLs_;
 };
 
 }  // namespace vistrel

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int exitedFromTheEventLoop = 7;
 constexpr int capturedStatus = 3;
+constexpr int layoutCommandStatus = 5;
 
 class AgentMainTest : public testing::SimTest {
   protected:
@@ -23,6 +24,11 @@ class AgentMainTest : public testing::SimTest {
                                         [this](const MissionControlCapture::Request& request) {
                                             capturedTo = request.path;
                                             return capturedStatus;
+                                        },
+                                    .layoutCommand =
+                                        [this](const LayoutCommandLine::Invocation& invocation) {
+                                            layoutCommand = invocation;
+                                            return layoutCommandStatus;
                                         },
                                     .application =
                                         [this] {
@@ -34,6 +40,7 @@ class AgentMainTest : public testing::SimTest {
     std::ostringstream out;
     int applicationsRun = 0;
     std::optional<std::string> capturedTo;
+    std::optional<LayoutCommandLine::Invocation> layoutCommand;
 };
 
 TEST_F(AgentMainTest, DiagnoseAnywhereAmongTheArgumentsPrintsTheTextExactlyAndExitsZero) {
@@ -66,6 +73,21 @@ TEST_F(AgentMainTest, DiagnoseWinsOverCapture) {
     EXPECT_EQ(out.str(), Diagnostics::text());
     EXPECT_EQ(capturedTo, std::nullopt);
     EXPECT_EQ(applicationsRun, 0);
+}
+
+TEST_F(AgentMainTest, ALayoutCommandAsksTheAgentAndRunsNoApplication) {
+    EXPECT_EQ(run({"Vistrel", "--apply-layout", "Writing Desk"}), layoutCommandStatus);
+    EXPECT_EQ(layoutCommand, (LayoutCommandLine::Invocation{CommandChannel::Command::applyLayout,
+                                                            "Writing Desk"}));
+    EXPECT_EQ(applicationsRun, 0);
+    EXPECT_TRUE(desktop.statusBar().items().empty());
+}
+
+TEST_F(AgentMainTest, DiagnoseAndCaptureWinOverALayoutCommand) {
+    EXPECT_EQ(run({"Vistrel", "--list-layouts", "--diagnose"}), 0);
+    EXPECT_EQ(run({"Vistrel", "--list-layouts", "--capture-mission-control", "/tmp/mc.json"}),
+              capturedStatus);
+    EXPECT_EQ(layoutCommand, std::nullopt);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/defaults_value.h"
 #include "settings/command_channel.h"
@@ -37,9 +38,8 @@ class UserInfoReader {
         DefaultsValue::Dictionary entries;
         const std::size_t count = take() % longest;
         for (std::size_t i = 0; i < count && at_ < bytes_.size(); ++i) {
-            // Half the keys are the ones the channel reads, so values meet the dispatcher.
-            const std::uint8_t pick = take();
-            std::string key = pick % 4 == 0 ? "command" : pick % 4 == 1 ? "value" : text();
+            // Most keys are the ones the channel reads, so values meet the dispatcher.
+            std::string key = this->key(take());
             entries[std::move(key)] = value(depth + 1);
         }
         return entries;
@@ -55,7 +55,7 @@ class UserInfoReader {
             case 3:
                 return static_cast<double>(take()) / 3;
             case 4: {
-                const auto name = CommandChannel::Command(take() % 4);
+                const auto name = CommandChannel::Command(take() % CommandChannel::commandCount);
                 return std::string(CommandChannel::name(name));
             }
             case 5:
@@ -72,29 +72,55 @@ class UserInfoReader {
         }
     }
 
+    std::string key(std::uint8_t pick) {
+        switch (pick % 6) {
+            case 0:
+                return "command";
+            case 1:
+                return "value";
+            case 2:
+                return "name";
+            case 3:
+                return "reply";
+            default:
+                return text();
+        }
+    }
+
     std::string_view bytes_;
     std::size_t at_ = 0;
 };
 
 // What the command channel promises for any notification: it acts only on a "command" that
-// is exactly one of the four names; anything else does nothing at all, not even log.
+// is exactly one of its names, and on a layout command only with a reply identifier, which
+// its answers carry; anything else does nothing at all, not even log.
 inline bool dispatchKeepsItsPromise(const NotificationCenter::UserInfo& userInfo) {
     SimDesktop desktop;
     ScopedPlatform installed{desktop};
     desktop.trusted = false;
     int applied = 0;
-    CommandChannel channel{[&applied] { ++applied; }};
+    std::vector<CommandChannel::Request> layouts;
+    CommandChannel channel{[&applied] { ++applied; },
+                           [&layouts](const CommandChannel::Request& r) { layouts.push_back(r); }};
     channel.listen();
     desktop.notifications().post("com.quillmarsh.vistrel.command", userInfo);
     desktop.executor().runUntilIdle();
 
-    const bool acted =
-        applied > 0 || desktop.trustPrompts > 0 || !desktop.workspace().openedURLs.empty() ||
-        desktop.application().activations() > 0 || !desktop.systemLog().lines().empty() ||
-        desktop.loginItem().status() != LoginItemStatus::notRegistered;
+    const auto& posted = desktop.notifications().posted;
+    const bool replied = posted.size() > 1;
+    const bool acted = applied > 0 || !layouts.empty() || replied || desktop.trustPrompts > 0 ||
+                       !desktop.workspace().openedURLs.empty() ||
+                       desktop.application().activations() > 0 ||
+                       !desktop.systemLog().lines().empty() ||
+                       desktop.loginItem().status() != LoginItemStatus::notRegistered;
     const auto request = CommandChannel::parse(userInfo);
     if (!request) return !acted;
-    return userInfo->at("command").string() == CommandChannel::name(request->command);
+    if (userInfo->at("command").string() != CommandChannel::name(request->command)) return false;
+    if (!CommandChannel::isLayoutCommand(request->command)) return layouts.empty() && !replied;
+    // One acknowledgement carrying the request's reply identifier, and the request handed on.
+    const auto reply = replied ? CommandChannel::parseReply(posted.back().second) : std::nullopt;
+    return !request->reply.empty() && layouts.size() == 1 && layouts.front() == *request &&
+           posted.size() == 2 && reply && reply->reply == request->reply && !reply->answer;
 }
 
 }  // namespace vistrel::fuzz

@@ -26,6 +26,12 @@ TEST(CommandFuzzRegression, WellFormedCommandsAndNearMissesKeepThePromise) {
         Dictionary{{"command", DefaultsValue::Data{'a', 'p', 'p'}}},
         Dictionary{{"command", DefaultsValue::Array{"applySettings"}}},
         Dictionary{{"Command", "applySettings"}},
+        Dictionary{{"command", "applyLayout"}, {"name", "Desk"}, {"reply", "r"}},
+        Dictionary{{"command", "applyLayout"}, {"name", "Desk"}},
+        Dictionary{{"command", "saveLayout"}, {"name", 3}, {"reply", "r"}},
+        Dictionary{{"command", "listLayouts"}, {"reply", ""}},
+        Dictionary{{"command", "listLayouts"}, {"reply", DefaultsValue::Array{"r"}}},
+        Dictionary{{"command", "ListLayouts"}, {"reply", "r"}},
     };
     for (const auto& input : inputs)
         EXPECT_TRUE(fuzz::dispatchKeepsItsPromise(input));

@@ -108,6 +108,17 @@ int SessionRig::play(std::string_view title, const std::vector<Step>& steps,
     return 0;
 }
 
+SessionRig::Agent SessionRig::launchAgent(double settle) {
+    Agent agent;
+    agent.pid = desktop_.addApplication(
+        SimApplication{.bundleIdentifier = *desktop_.bundle.identifier, .name = "Vistrel"});
+    agent.delegate = std::make_unique<AppDelegate>();
+    agent.delegate->applicationDidFinishLaunching();
+    desktop_.executor().advance(settle);
+    if (agent.delegate->engine() != nullptr) watch(*agent.delegate->engine());
+    return agent;
+}
+
 std::filesystem::path SessionRig::home() const {
     return context_.outputDirectory / (name_ + std::string(homeSuffix));
 }

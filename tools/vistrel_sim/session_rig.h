@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/app_delegate.h"
 #include "platform/platform.h"
 #include "session/engine.h"
 #include "sim/sim_desktop.h"
@@ -86,6 +87,15 @@ class SessionRig {
     // (with `hovered()`'s thumbnail ringed); 1 when a step fails, else 0.
     int play(std::string_view title, const std::vector<Step>& steps,
              const std::function<std::optional<SimWindowId>()>& hovered);
+
+    // The whole agent as macOS starts it: its process among the running applications, its
+    // delegate through start-up, `settle` seconds of the delayed work that follows, and the
+    // rig watching the engine it started.
+    struct Agent {
+        std::unique_ptr<AppDelegate> delegate;
+        Pid pid = 0;
+    };
+    Agent launchAgent(double settle);
 
     SimDesktop& desktop() { return desktop_; }
     Engine& engine() { return *engine_; }

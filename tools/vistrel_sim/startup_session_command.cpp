@@ -2,6 +2,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/app_delegate.h"
@@ -184,13 +185,9 @@ class StartupSession {
     }
 
     void launch() {
-        SimDesktop& desktop = rig_.desktop();
-        agentPid_ = desktop.addApplication(
-            SimApplication{.bundleIdentifier = *desktop.bundle.identifier, .name = "Vistrel"});
-        agent_ = std::make_unique<AppDelegate>();
-        agent_->applicationDidFinishLaunching();
-        desktop.executor().advance(launchSettle);
-        if (agent_->engine() != nullptr) rig_.watch(*agent_->engine());
+        SessionRig::Agent agent = rig_.launchAgent(launchSettle);
+        agent_ = std::move(agent.delegate);
+        agentPid_ = agent.pid;
     }
 
     bool hasStatusItem() {

@@ -4,10 +4,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "app/agent_main.h"
 #include "app/app_delegate.h"
+#include "app/layout_command_line.h"
 #include "mac/mac_platform.h"
+#include "mac/mac_strings.h"
 #include "tracking/mission_control_capture.h"
 
 // Hands AppKit's two questions to the agent's delegate, where every decision is made.
@@ -24,6 +28,16 @@
 
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag {
     return _agent.applicationShouldHandleReopen();
+}
+
+// URLs of the scheme the bundle declares. When one launches the agent, AppKit may call this
+// before applicationDidFinishLaunching:; the agent keeps them until it has started.
+- (void)application:(NSApplication*)application openURLs:(NSArray<NSURL*>*)urls {
+    std::vector<std::string> texts;
+    for (NSURL* url in urls) {
+        if (auto text = vistrel::utf8Text(url.absoluteString)) texts.push_back(*text);
+    }
+    _agent.openURLs(texts);
 }
 
 @end
@@ -46,6 +60,28 @@ namespace {
     dispatch_main();
 }
 
+// `Vistrel --apply-layout NAME`, `--save-layout NAME`, `--list-layouts`: the core asks the
+// running agent and reports once, then the process exits with its status. The answer comes
+// as a distributed notification, which the main run loop delivers, so the main thread runs
+// that loop (it serves the main queue as well); a timer keeps the loop from returning at
+// once for want of anything to wait on before the notification centre has added its port.
+[[noreturn]] int layoutCommand(const vistrel::LayoutCommandLine::Invocation& invocation) {
+    vistrel::LayoutCommandLine::start(invocation, [](vistrel::LayoutCommandLine::Result result) {
+        for (const std::string& line : result.lines)
+            std::cout << line << '\n';
+        std::cout.flush();
+        if (!result.reason.empty()) std::cerr << result.reason << std::endl;
+        std::exit(result.status);
+    });
+    NSTimer* keepAlive = [NSTimer timerWithTimeInterval:vistrel::LayoutCommandLine::doneTimeout
+                                                repeats:YES
+                                                  block:^(NSTimer*){
+                                                  }];
+    [[NSRunLoop mainRunLoop] addTimer:keepAlive forMode:NSRunLoopCommonModes];
+    CFRunLoopRun();
+    std::exit(EXIT_FAILURE);
+}
+
 // The agent: an accessory application (a status item, no Dock icon) over the core.
 int runApplication() {
     // The application holds its delegate weakly; this one lives as long as the process.
@@ -66,7 +102,8 @@ int main() {
         // touches no AppKit, so "--diagnose" and the capture make no application object.
         auto* machine = new vistrel::MacPlatform;
         vistrel::installPlatform(&machine->platform());
-        return vistrel::AgentMain::run(std::cout,
-                                       {.capture = capture, .application = runApplication});
+        return vistrel::AgentMain::run(
+            std::cout,
+            {.capture = capture, .layoutCommand = layoutCommand, .application = runApplication});
     }
 }
