@@ -21,6 +21,9 @@ struct SavedLayout {
         std::string title;  // may be empty
         UnitRect rect;
         std::optional<std::string> display;  // the screen's name; none when unknown
+        // The file the window shows, as a file URL: the document an application exposes
+        // through accessibility, or the folder of a Finder window; none when unknown.
+        std::optional<std::string> document = {};
 
         friend bool operator==(const Window&, const Window&) = default;
     };

@@ -19,6 +19,7 @@ constexpr char app[] = "app";
 constexpr char bundleID[] = "bundleID";
 constexpr char display[] = "display";
 constexpr char displays[] = "displays";
+constexpr char document[] = "document";
 constexpr char frame[] = "frame";
 constexpr char rect[] = "rect";
 constexpr char title[] = "title";
@@ -60,6 +61,7 @@ json toJSON(const SavedLayout::Window& window) {
                 {Key::rect, toJSON(window.rect)},
                 {Key::title, window.title}};
     if (window.display) object[Key::display] = *window.display;
+    if (window.document) object[Key::document] = *window.document;
     return object;
 }
 
@@ -134,6 +136,11 @@ std::optional<SavedLayout::Window> windowFrom(const json& value) {
     if (const json* display = present(value, Key::display)) {
         if (!display->is_string()) return std::nullopt;
         window.display = display->get<std::string>();
+    }
+    // Windows saved before layouts knew documents have none.
+    if (const json* document = present(value, Key::document)) {
+        if (!document->is_string()) return std::nullopt;
+        window.document = document->get<std::string>();
     }
     return window;
 }
