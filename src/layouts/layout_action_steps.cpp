@@ -10,6 +10,8 @@
 #include "layouts/layout_match.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"
+#include "windows/document_opener.h"
+#include "windows/finder_folders.h"
 #include "windows/screens.h"
 #include "windows/window_attribute.h"
 #include "windows/window_mover.h"
@@ -105,8 +107,25 @@ bool place(const OpenWindow& window, const UnitRect& rect, const ScreenInfo& scr
 std::vector<LayoutMatch::Open> matchKeys(const std::vector<OpenWindow>& open) {
     std::vector<LayoutMatch::Open> keys;
     for (const OpenWindow& window : open)
-        keys.push_back({window.bundleID, window.title});
+        keys.push_back({window.bundleID, window.title, window.document});
     return keys;
+}
+
+// Finder is asked for its folders only when the layout has a Finder window saved on one.
+bool holdsFinderFolder(const std::vector<SavedLayout::Window>& saved) {
+    return std::ranges::any_of(saved, [](const SavedLayout::Window& window) {
+        return window.bundleID == FinderFolders::bundleID && window.document;
+    });
+}
+
+// The new window of a saved window's file, opened again because its window has gone; none
+// when it showed no file, its application may not be launched, or the file is gone (counted).
+std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, bool launchApps, int& gone) {
+    if (!saved.document) return std::nullopt;
+    if (!launchApps && !WindowMover::running(saved.bundleID)) return std::nullopt;
+    DocumentOpener::Opened opened = DocumentOpener::open(saved.bundleID, *saved.document);
+    if (opened.gone) ++gone;
+    return std::move(opened.window);
 }
 
 // Records one arranged window; none when its application no longer runs or has no bundle
@@ -116,9 +135,12 @@ std::optional<SavedLayout::Window> record(const LayoutActions::Placement& placem
     const auto owner = platform().workspace.application(placement.ref.pid);
     if (!owner || !owner->bundleIdentifier) return std::nullopt;
     return SavedLayout::Window{
-        *owner->bundleIdentifier, owner->localizedName.value_or(std::string()),
+        *owner->bundleIdentifier,
+        owner->localizedName.value_or(std::string()),
         AX::string(placement.ref.element, WindowAttribute::title).value_or(std::string()),
-        placement.rect, displayOf(screen)};
+        placement.rect,
+        displayOf(screen),
+        WindowMover::documentOf(placement.ref.element)};
 }
 
 // Keeps how a window is before it moves.
@@ -141,32 +163,43 @@ std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows,
 }
 
 std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap) {
+    std::vector<OpenWindow> visible = WindowMover::visibleWindows();
+    FinderFolders::fill(visible);
     std::vector<SavedLayout::Window> captured;
-    for (const OpenWindow& window : WindowMover::visibleWindows()) {
+    for (const OpenWindow& window : visible) {
         const auto screen = Screens::holding(window.frame, screens);
         if (!screen) continue;
         captured.push_back({window.bundleID, window.app, window.title,
-                            capturedRect(window.frame, screen->visible, gap), displayOf(*screen)});
+                            capturedRect(window.frame, screen->visible, gap), displayOf(*screen),
+                            window.document});
     }
     return layoutOf(std::move(captured), screens);
 }
 
-std::vector<WindowRef> restore(const RestoreRequest& request, Before& before) {
+LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
     const std::vector<SavedLayout::Window>& saved = request.layout.windows;
-    const std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
+    std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
+    if (holdsFinderFolder(saved)) FinderFolders::fill(open);
     const auto pairing = LayoutMatch::pair(saved, matchKeys(open));
-    std::vector<WindowRef> moved;
+    LayoutActions::Restored restored;
     for (std::size_t i = 0; i < saved.size() && i < pairing.size(); ++i) {
-        if (!pairing[i]) continue;
         const ScreenInfo* screen = targetScreen(saved[i].display, request.screens);
         if (screen == nullptr) continue;
-        const OpenWindow& partner = open[*pairing[i]];
+        std::optional<OpenWindow> reopened;
+        if (!pairing[i]) reopened = reopen(saved[i], request.launchApps, restored.documentsGone);
+        if (!pairing[i] && !reopened) continue;
+        const OpenWindow& partner = reopened ? *reopened : open[*pairing[i]];
         remember(before, partner.ref);
-        if (place(partner, saved[i].rect, *screen, request.gap)) moved.push_back(partner.ref);
+        if (place(partner, saved[i].rect, *screen, request.gap)) {
+            restored.moved.push_back(partner.ref);
+        }
     }
-    Log::info("layouts: restored \"" + request.layout.name + "\", " + std::to_string(moved.size()) +
-              " of " + std::to_string(saved.size()) + " windows");
-    return moved;
+    std::string line = "layouts: restored \"" + request.layout.name + "\", " +
+                       std::to_string(restored.moved.size()) + " of " +
+                       std::to_string(saved.size()) + " windows";
+    if (restored.documentsGone > 0) line += ", " + restored.goneMessage();
+    Log::info(line);
+    return restored;
 }
 
 Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,

@@ -36,8 +36,9 @@ struct Arranged {
 
 // The visible windows as a new layout; none when no window is on a screen.
 std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap);
-// Moves the layout's windows back; the windows moved, in the layout's order.
-std::vector<WindowRef> restore(const RestoreRequest& request, Before& before);
+// Moves the layout's windows back, opening again the file of each window that has gone and
+// placing its new window; what it did.
+LayoutActions::Restored restore(const RestoreRequest& request, Before& before);
 // Places the windows into their slots on the screen, full-screen windows left alone.
 Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
                  double gap, Before& before);

@@ -60,6 +60,11 @@ void escapeAgainIfStillOpen(std::vector<WindowRef> windows) {
 
 }  // namespace
 
+std::string LayoutActions::Restored::goneMessage() const {
+    if (documentsGone == 1) return "1 document no longer exists";
+    return std::to_string(documentsGone) + " documents no longer exist";
+}
+
 double LayoutActions::gap() {
     const double gap = Settings::shared().layoutsGap();
     // A stored NaN passes the clamp unchanged and would make every frame unwritable.
@@ -82,11 +87,11 @@ void LayoutActions::restore(const SavedLayout& layout, RestoreOptions options, R
         options.mayLaunch.value_or(Settings::shared().layoutsLaunchApps())};
     work([request = std::move(request), raises = options.raises, done = std::move(done)] {
         LayoutActionSteps::Before before;
-        std::vector<WindowRef> moved = LayoutActionSteps::restore(request, before);
+        Restored restored = LayoutActionSteps::restore(request, before);
         keepUndo(std::move(before));
         // With nothing moved Mission Control stays open, to say why.
-        if (raises && !moved.empty()) leaveMissionControl(moved);
-        complete(done, std::move(moved));
+        if (raises && !restored.moved.empty()) leaveMissionControl(restored.moved);
+        complete(done, std::move(restored));
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "layouts/layout_undo.h"
@@ -41,8 +42,18 @@ struct LayoutActions {
         bool raises = true;
     };
 
+    // What a restore did: the windows it moved, in the layout's order, and how many of the
+    // layout's windows showed files that no longer exist.
+    struct Restored {
+        std::vector<WindowRef> moved;
+        int documentsGone = 0;
+
+        // "1 document no longer exists", "2 documents no longer exist".
+        std::string goneMessage() const;
+    };
+
     using CaptureDone = std::function<void(std::optional<SavedLayout>)>;
-    using RestoreDone = std::function<void(std::vector<WindowRef>)>;
+    using RestoreDone = std::function<void(Restored)>;
     using ArrangeDone = std::function<void(std::optional<SavedLayout>)>;
     using SnapDone = std::function<void(std::optional<Snapped>)>;
     using UndoDone = std::function<void(std::optional<LayoutUndo::Outcome>)>;
@@ -57,7 +68,8 @@ struct LayoutActions {
 
     // The visible windows as a new layout; none when there are none.
     static void captureCurrent(CaptureDone done);
-    // Moves the layout's windows back; completes with the windows moved.
+    // Moves the layout's windows back, opening again the files of windows that have gone;
+    // completes with what it did.
     static void restore(const SavedLayout& layout, RestoreDone done);
     static void restore(const SavedLayout& layout, RestoreOptions options, RestoreDone done);
     // Places each window into its slot on `screen`; completes with the layout they form.

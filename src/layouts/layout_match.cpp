@@ -1,5 +1,7 @@
 #include "layouts/layout_match.h"
 
+#include "base/file_url.h"
+
 namespace vistrel {
 
 namespace {
@@ -22,8 +24,15 @@ void pass(const std::vector<SavedLayout::Window>& saved, const std::vector<Layou
     }
 }
 
-bool sameApp(const SavedLayout::Window& saved, const LayoutMatch::Open& open) {
-    return saved.bundleID == open.bundleID;
+// Two windows known to show different files are not the same window.
+bool compatible(const SavedLayout::Window& saved, const LayoutMatch::Open& open) {
+    return saved.bundleID == open.bundleID &&
+           !(saved.document && open.document && !FileURL::same(*saved.document, *open.document));
+}
+
+bool sameDocument(const SavedLayout::Window& saved, const LayoutMatch::Open& open) {
+    return saved.bundleID == open.bundleID && saved.document && open.document &&
+           FileURL::same(*saved.document, *open.document);
 }
 
 }  // namespace
@@ -32,16 +41,20 @@ Pairing LayoutMatch::pair(const std::vector<SavedLayout::Window>& saved,
                           const std::vector<Open>& open) {
     Pairing pairing(saved.size());
     std::vector<bool> used(open.size(), false);
-    // Exact titles first, over all saved windows, so that a titled window is never robbed of
-    // its own window by an earlier window matched on the application alone.
+    // Files first, then exact titles, each over all saved windows, so that a window is never
+    // robbed of its own by an earlier one matched on a weaker rule.
+    pass(
+        saved, open, used, pairing,
+        [](const SavedLayout::Window& window) { return window.document.has_value(); },
+        sameDocument);
     pass(
         saved, open, used, pairing,
         [](const SavedLayout::Window& window) { return !window.title.empty(); },
         [](const SavedLayout::Window& s, const Open& o) {
-            return sameApp(s, o) && s.title == o.title;
+            return compatible(s, o) && s.title == o.title;
         });
     pass(
-        saved, open, used, pairing, [](const SavedLayout::Window&) { return true; }, sameApp);
+        saved, open, used, pairing, [](const SavedLayout::Window&) { return true; }, compatible);
     return pairing;
 }
 

@@ -15,12 +15,17 @@ struct LayoutMatch {
     struct Open {
         std::string bundleID;
         std::string title;
+        std::optional<std::string> document = {};
     };
 
-    // One entry per saved window, in order: the index of its open window, or none. A titled
-    // saved window first takes the first unused open window of its application with the same
-    // title; then every saved window still without one takes the first unused open window of
-    // its application. No open window is given twice; comparisons are case-sensitive.
+    // One entry per saved window, in order: the index of its open window, or none. A saved
+    // window with a document first takes the first unused open window of its application
+    // showing that file; then a titled saved window takes the first unused open window of
+    // its application with the same title; then every saved window still without one takes
+    // the first unused open window of its application. A window showing one file never takes
+    // the place of a window saved with another: several windows of one application, each on
+    // its own file, each go back to their own places. No open window is given twice; titles
+    // are compared case-sensitively.
     static std::vector<std::optional<std::size_t>> pair(
         const std::vector<SavedLayout::Window>& saved, const std::vector<Open>& open);
 };

@@ -137,13 +137,16 @@ void LayoutRequests::apply(const std::string& name, std::string_view from, Done 
     if (!layout) return refuse(done, "no layout named " + quoted(name), from);
     Log::info("layouts: restoring " + quoted(name) + " " + std::string(from));
     const auto total = layout->windows.size();
-    LayoutActions::restore(*layout, [name, total, done](const std::vector<WindowRef>& moved) {
-        if (moved.empty()) {
-            return finish(done, false, "none of the windows of " + quoted(name) + " are open");
+    LayoutActions::restore(*layout, [name, total, done](const LayoutActions::Restored& restored) {
+        const std::string gone =
+            restored.documentsGone > 0 ? " (" + restored.goneMessage() + ")" : std::string();
+        if (restored.moved.empty()) {
+            return finish(done, false,
+                          "none of the windows of " + quoted(name) + " are open" + gone);
         }
         finish(done, true,
-               "restored " + quoted(name) + ", " + std::to_string(moved.size()) + " of " +
-                   std::to_string(total) + " windows");
+               "restored " + quoted(name) + ", " + std::to_string(restored.moved.size()) + " of " +
+                   std::to_string(total) + " windows" + gone);
     });
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/percent_encoding.h"
 #include "layouts/layout_requests.h"
 
 namespace vistrel {
@@ -18,8 +19,6 @@ constexpr std::string_view undoPath = "/undo";
 // The characters a URL may hold as they are (RFC 3986, 2.2 and 2.3), besides letters and
 // digits; the system hands over a URL with every other byte percent-encoded.
 constexpr std::string_view allowedMarks = "-._~:/?#[]@!$&'()*+,;=%";
-constexpr int hexBase = 16;
-constexpr int hexLetterValue = 10;
 
 LayoutURL::Parsed refuse(std::string reason) {
     return {std::nullopt, std::move(reason)};
@@ -39,13 +38,6 @@ char lower(char c) {
 
 bool equalsIgnoringCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, [](char x, char y) { return lower(x) == lower(y); });
-}
-
-std::optional<int> hexValue(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + hexLetterValue;
-    if (c >= 'A' && c <= 'F') return c - 'A' + hexLetterValue;
-    return std::nullopt;
 }
 
 std::optional<LayoutURL::Action> actionOf(std::string_view path) {
@@ -85,22 +77,7 @@ LayoutURL::Parsed nameFrom(LayoutURL::Action action, std::optional<std::string_v
 }  // namespace
 
 std::optional<std::string> LayoutURL::percentDecoded(std::string_view text) {
-    std::string decoded;
-    decoded.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '+') {
-            decoded += ' ';
-        } else if (text[i] != '%') {
-            decoded += text[i];
-        } else {
-            const auto high = i + 1 < text.size() ? hexValue(text[i + 1]) : std::nullopt;
-            const auto low = i + 2 < text.size() ? hexValue(text[i + 2]) : std::nullopt;
-            if (!high || !low) return std::nullopt;
-            decoded += static_cast<char>(*high * hexBase + *low);
-            i += 2;
-        }
-    }
-    return decoded;
+    return PercentEncoding::decoded(text, true);
 }
 
 LayoutURL::Parsed LayoutURL::parse(std::string_view text) {

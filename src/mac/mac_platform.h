@@ -21,6 +21,7 @@
 #include "mac/mac_process_runner.h"
 #include "mac/mac_report_dialog.h"
 #include "mac/mac_save_panel.h"
+#include "mac/mac_script_runner.h"
 #include "mac/mac_status_bar.h"
 #include "mac/mac_system_info.h"
 #include "mac/mac_system_log.h"
@@ -72,6 +73,7 @@ class MacPlatform {
                     .appearance = appearance_,
                     .launch = launch_,
                     .processes = processes_,
+                    .scripts = scripts_,
                     .fileWriter = fileWriter_} {}
     MacPlatform(const MacPlatform&) = delete;
     MacPlatform& operator=(const MacPlatform&) = delete;
@@ -111,6 +113,7 @@ class MacPlatform {
     MacAppearance appearance_;
     MacLaunchEnvironment launch_;
     MacProcessRunner processes_;
+    MacScriptRunner scripts_;
     PosixFileWriter fileWriter_;
     Platform platform_;
 };

@@ -20,6 +20,8 @@ class MacWorkspace : public Workspace {
                          OpenCompletion completion) override;
     bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
                            double timeout) override;
+    bool openDocument(const std::string& fileURL, const std::string& applicationURL,
+                      const OpenConfiguration& configuration, double timeout) override;
     std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,
                                                  int pixels) override;
     bool openURL(const std::string& url) override;

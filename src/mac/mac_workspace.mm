@@ -3,8 +3,8 @@
 #import <AppKit/AppKit.h>
 #include <dispatch/dispatch.h>
 
-#include "platform/alpha.h"
 #include "mac/mac_strings.h"
+#include "platform/alpha.h"
 
 namespace vistrel {
 
@@ -122,6 +122,24 @@ bool MacWorkspace::launchApplication(const std::string& url, const OpenConfigura
                                     }];
     const auto wait = static_cast<int64_t>(timeout * NSEC_PER_SEC);
     return dispatch_semaphore_wait(done, dispatch_time(DISPATCH_TIME_NOW, wait)) == 0 && launched;
+}
+
+bool MacWorkspace::openDocument(const std::string& fileURL, const std::string& applicationURL,
+                                const OpenConfiguration& configuration, double timeout) {
+    NSURL* document = [NSURL URLWithString:nsString(fileURL)];
+    if (document == nil) return false;
+    NSURL* const documents[] = {document};
+    dispatch_semaphore_t done = dispatch_semaphore_create(0);
+    __block bool opened = false;
+    [NSWorkspace.sharedWorkspace openURLs:[NSArray arrayWithObjects:documents count:1]
+                     withApplicationAtURL:[NSURL fileURLWithPath:nsString(applicationURL)]
+                            configuration:nsConfiguration(configuration)
+                        completionHandler:^(NSRunningApplication* app, NSError* error) {
+                          opened = app != nil && error == nil;
+                          dispatch_semaphore_signal(done);
+                        }];
+    const auto wait = static_cast<int64_t>(timeout * NSEC_PER_SEC);
+    return dispatch_semaphore_wait(done, dispatch_time(DISPATCH_TIME_NOW, wait)) == 0 && opened;
 }
 
 // The icon drawn into a bitmap of our own layout: 8-bit RGBA with premultiplied alpha (the

@@ -25,6 +25,7 @@
 #include "platform/report_dialog.h"
 #include "platform/save_panel.h"
 #include "platform/screen_list.h"
+#include "platform/script_runner.h"
 #include "platform/status_bar.h"
 #include "platform/system_info.h"
 #include "platform/system_log.h"
@@ -76,6 +77,7 @@ struct Platform {
     SystemAppearance& appearance;
     LaunchEnvironment& launch;
     ProcessRunner& processes;
+    ScriptRunner& scripts;
     FileWriter& fileWriter;
 };
 

@@ -70,6 +70,11 @@ class Workspace {
     // called on the main thread.
     virtual bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
                                    double timeout) = 0;
+    // open(_:withApplicationAt:configuration:completionHandler:) with one file URL (a
+    // document, or a folder for Finder), then waits up to `timeout` seconds for the open to
+    // complete: whether the application took the file. Blocks; never on the main thread.
+    virtual bool openDocument(const std::string& fileURL, const std::string& applicationURL,
+                              const OpenConfiguration& configuration, double timeout) = 0;
     // The application's icon (NSWorkspace.icon(forFile:) of its location) as a square bitmap
     // of `pixels` per side; nothing when it is not installed.
     virtual std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,

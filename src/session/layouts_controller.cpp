@@ -306,11 +306,14 @@ void LayoutsController::restore(std::size_t index) {
 void LayoutsController::restoreLayout(std::size_t index) {
     const SavedLayout& layout = saved_[index];
     Log::info("layouts: restoring " + quoted(layout.name));
-    LayoutActions::restore(layout, [alive = alive()](const std::vector<WindowRef>& moved) {
+    LayoutActions::restore(layout, [alive = alive()](const LayoutActions::Restored& restored) {
         auto self = alive.lock();
         if (!self) return;
-        if (moved.empty()) {
-            (*self)->toastMessage("None of its windows are open", std::nullopt);
+        if (restored.documentsGone > 0) (*self)->toastMessage(restored.goneMessage(), std::nullopt);
+        if (restored.moved.empty()) {
+            if (restored.documentsGone == 0) {
+                (*self)->toastMessage("None of its windows are open", std::nullopt);
+            }
             return;
         }
         (*self)->windowsMoved();

@@ -279,6 +279,9 @@ AXError SimAccessibility::readWindow(const SimWindow& window, std::string_view a
         value = window.fullScreen;
     } else if (attribute == "AXWindow") {
         value = windowElement(window.id);
+    } else if (auto document = exposedDocument(desktop_, window);
+               attribute == "AXDocument" && document) {
+        value = *document;
     } else {
         return AXError::noValue;
     }

@@ -61,6 +61,7 @@ SimDesktop::SimDesktop()
                 .appearance = appearance_,
                 .launch = launch_,
                 .processes = processes_,
+                .scripts = scripts_,
                 .fileWriter = fileWriter_},
       dock_(*this) {
     screens_.push_back(screenAt(simPrimaryScreen, firstDisplayID));

@@ -33,6 +33,7 @@
 #include "sim/sim_process_runner.h"
 #include "sim/sim_report_dialog.h"
 #include "sim/sim_save_panel.h"
+#include "sim/sim_script_runner.h"
 #include "sim/sim_status_bar.h"
 #include "sim/sim_system_info.h"
 #include "sim/sim_system_log.h"
@@ -96,6 +97,8 @@ class SimDesktop {
     SimAppearance& appearance() { return appearance_; }
     SimLaunchEnvironment& launch() { return launch_; }
     SimProcessRunner& processes() { return processes_; }
+    // osascript, answering Finder's windows.
+    SimScriptRunner& scripts() { return scripts_; }
     // Appending to real files, with a full disk to stage.
     SimFileWriter& fileWriter() { return fileWriter_; }
     // Fills the disk (or frees it): file appends fail and defaults writes do not take.
@@ -209,6 +212,7 @@ class SimDesktop {
     SimAppearance appearance_;
     SimLaunchEnvironment launch_;
     SimProcessRunner processes_;
+    SimScriptRunner scripts_{*this};
     SimFileWriter fileWriter_;
     Platform platform_;
     SimDock dock_;

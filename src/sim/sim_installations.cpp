@@ -49,12 +49,34 @@ std::optional<double> SimInstallations::launch(const std::string& path) {
     if (running(found->bundleIdentifier)) return now;
     ++launches_;
     pending_.push_back({found->bundleIdentifier, now + found->launchDelay});
-    // Time moved on by the executor brings the launch up on its own; a sleeping queue
-    // brings it up the next time it looks.
-    desktop_.executor().mainQueue().after(found->launchDelay, [this] { settle(); });
-    desktop_.executor().mainQueue().after(found->launchDelay + found->windowDelay,
-                                          [this] { settle(); });
+    settleLater(found->launchDelay);
+    settleLater(found->launchDelay + found->windowDelay);
     return pending_.back().runsAt;
+}
+
+std::optional<double> SimInstallations::openDocument(const std::string& path, SimWindow window) {
+    const std::optional<double> runsAt = launch(path);
+    if (!runsAt) return std::nullopt;
+    const SimInstalledApplication* found = at(path);
+    for (Pending& pending : pending_) {
+        if (pending.bundleIdentifier != found->bundleIdentifier) continue;
+        pending.documents.push_back(std::move(window));
+        return runsAt;
+    }
+    // Running already: only the file's window comes up.
+    const double now = desktop_.clock().now();
+    Pending opening{found->bundleIdentifier, now, *running(found->bundleIdentifier)};
+    opening.reopens = false;
+    opening.documents.push_back(std::move(window));
+    pending_.push_back(std::move(opening));
+    settleLater(found->windowDelay);
+    return now;
+}
+
+// Time moved on by the executor brings a launch up on its own; a sleeping queue brings it up
+// the next time it looks.
+void SimInstallations::settleLater(double seconds) {
+    desktop_.executor().mainQueue().after(seconds, [this] { settle(); });
 }
 
 void SimInstallations::settle() {
@@ -72,7 +94,11 @@ void SimInstallations::settle() {
             pending.pid = desktop_.addApplication(std::move(application));
         }
         if (pending.pid != 0 && now >= pending.runsAt + installed->windowDelay) {
-            for (const SimWindow& window : installed->windows)
+            if (pending.reopens) {
+                for (const SimWindow& window : installed->windows)
+                    desktop_.addWindow(pending.pid, window);
+            }
+            for (const SimWindow& window : pending.documents)
                 desktop_.addWindow(pending.pid, window);
             pending.done = true;
         }

@@ -39,6 +39,10 @@ class SimInstallations {
     // Starts launching the application installed at `path`, unless it is running or already
     // launching: when it will run (or runs already). Nothing when nothing is installed there.
     std::optional<double> launch(const std::string& path);
+    // Opens a file's window in the application installed at `path`, launching it first when
+    // it is not running: when the application runs (the window comes up `windowDelay`
+    // later). Nothing when nothing is installed there.
+    std::optional<double> openDocument(const std::string& path, SimWindow window);
     // Brings up every application and window whose time has come.
     void settle();
     // How many launches were started.
@@ -50,7 +54,10 @@ class SimInstallations {
         double runsAt = 0;
         Pid pid = 0;  // once running
         bool done = false;
+        bool reopens = true;                    // a launch brings the application's windows back
+        std::vector<SimWindow> documents = {};  // windows of files opened in it
     };
+    void settleLater(double seconds);
     std::optional<Pid> running(const std::string& bundleIdentifier) const;
 
     SimDesktop& desktop_;

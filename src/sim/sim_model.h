@@ -45,6 +45,10 @@ struct SimWindow {
     MinimizeBehavior minimizeBehavior = MinimizeBehavior::obeys;
     std::optional<Size> minimumSize;  // a resize below it is clamped
     std::int64_t layer = 0;
+    // The file the window shows, as a file URL: what "AXDocument" answers when its
+    // application exposes it, and what Finder's scripting interface answers for a Finder
+    // window (whose "AXDocument" is empty: nikitabobko/AeroSpace issue 247 shows one).
+    std::optional<std::string> document;
 };
 
 // One simulated application.
@@ -61,6 +65,8 @@ struct SimApplication {
     // Virtual seconds every accessibility call on its elements takes.
     double accessibilityLatency = 0;
     bool enhancedUserInterface = false;
+    // Whether its windows answer "AXDocument" (document-based applications do; Finder does not).
+    bool exposesDocuments = true;
 };
 
 }  // namespace vistrel

@@ -11,9 +11,12 @@ namespace vistrel {
 
 namespace {
 
+constexpr std::string_view finderBundle = "com.apple.finder";
+
 struct SceneWindow {
     const char* title;
     Rect frame;
+    const char* document = nullptr;  // the file or folder it shows, as a file URL
 };
 
 struct SceneApplication {
@@ -31,7 +34,8 @@ const std::vector<SceneApplication>& sceneApplications() {
          "Finder",
          "/System/Library/CoreServices/Finder.app",
          Color::fromRGB(0x3478F6),
-         {{"Applications", {40, 180, 720, 440}}, {"Downloads", {880, 470, 520, 330}}}},
+         {{"Applications", {40, 180, 720, 440}, "file:///Applications/"},
+          {"Downloads", {880, 470, 520, 330}, "file:///Users/ada/Downloads/"}}},
         {"com.apple.mail",
          "Mail",
          "/System/Applications/Mail.app",
@@ -71,6 +75,8 @@ void populateDefaultScene(SimDesktop& desktop) {
         SimApplication application;
         application.bundleIdentifier = scene.bundleIdentifier;
         application.name = scene.name;
+        // Finder's windows answer no "AXDocument" (nikitabobko/AeroSpace issue 247).
+        application.exposesDocuments = scene.bundleIdentifier != std::string_view(finderBundle);
         const Pid pid = desktop.addApplication(std::move(application));
         SimInstalledApplication installed{
             scene.bundleIdentifier, scene.name, scene.path, scene.iconColor, {}};
@@ -78,6 +84,7 @@ void populateDefaultScene(SimDesktop& desktop) {
             SimWindow made;
             made.title = window.title;
             made.frame = window.frame;
+            if (window.document != nullptr) made.document = window.document;
             installed.windows.push_back(made);
             desktop.addWindow(pid, std::move(made));
         }

@@ -58,4 +58,10 @@ AXError pressWindowPart(SimDesktop& desktop, SimWindow& window, SimWindowPart pa
     return AXError::success;
 }
 
+std::optional<std::string> exposedDocument(SimDesktop& desktop, const SimWindow& window) {
+    const SimApplication* app = desktop.application(window.pid);
+    if (app == nullptr || !app->exposesDocuments) return std::nullopt;
+    return window.document;
+}
+
 }  // namespace vistrel

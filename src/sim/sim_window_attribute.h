@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/ax_value.h"
@@ -17,5 +19,8 @@ AXError writeWindowAttribute(SimWindow& window, std::string_view attribute, cons
 // Presses one of a simulated window's buttons: close, minimize (as the window's minimizing
 // behaves) or full screen.
 AXError pressWindowPart(SimDesktop& desktop, SimWindow& window, SimWindowPart part);
+
+// What "AXDocument" answers for the window: its document, when its application exposes it.
+std::optional<std::string> exposedDocument(SimDesktop& desktop, const SimWindow& window);
 
 }  // namespace vistrel

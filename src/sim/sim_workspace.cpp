@@ -116,6 +116,26 @@ bool SimWorkspace::launchApplication(const std::string& url, const OpenConfigura
     return wait <= timeout;
 }
 
+// The application shows the file in a new window titled with the file's name, as a
+// document-based application (or Finder, for a folder) does.
+bool SimWorkspace::openDocument(const std::string& fileURL, const std::string& applicationURL,
+                                const OpenConfiguration& configuration, double timeout) {
+    static_cast<void>(configuration);
+    documentRequests.emplace_back(fileURL, applicationURL);
+    SimWindow window;
+    std::string_view name = fileURL;
+    if (name.ends_with('/')) name.remove_suffix(1);
+    window.title = std::string(name.substr(name.rfind('/') + 1));
+    window.frame = documentWindowFrame;
+    window.document = fileURL;
+    const auto runsAt = desktop_.installations().openDocument(applicationURL, std::move(window));
+    if (!runsAt) return false;
+    const double wait = *runsAt - desktop_.clock().now();
+    desktop_.clock().sleep(std::min(wait, timeout));
+    desktop_.installations().settle();
+    return wait <= timeout;
+}
+
 std::shared_ptr<const Image> SimWorkspace::applicationIcon(const std::string& bundleIdentifier,
                                                            int pixels) {
     const SimInstalledApplication* installed = desktop_.installations().find(bundleIdentifier);

@@ -29,6 +29,8 @@ class SimWorkspace : public Workspace {
                          OpenCompletion completion) override;
     bool launchApplication(const std::string& url, const OpenConfiguration& configuration,
                            double timeout) override;
+    bool openDocument(const std::string& fileURL, const std::string& applicationURL,
+                      const OpenConfiguration& configuration, double timeout) override;
     std::shared_ptr<const Image> applicationIcon(const std::string& bundleIdentifier,
                                                  int pixels) override;
     bool openURL(const std::string& url) override;
@@ -46,6 +48,10 @@ class SimWorkspace : public Workspace {
     std::vector<std::pair<std::string, OpenConfiguration>> launchRequests;
     // Every openApplication call, with its configuration.
     std::vector<std::pair<std::string, OpenConfiguration>> openRequests;
+    // Every file opened in an application: the file's URL and the application's path.
+    std::vector<std::pair<std::string, std::string>> documentRequests;
+    // Where a file opened in an application shows its window.
+    Rect documentWindowFrame{200, 120, 800, 560};
 
   private:
     SimDesktop& desktop_;

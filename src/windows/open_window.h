@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/geometry.h"
@@ -15,6 +16,9 @@ struct OpenWindow {
     std::string title;     // "AXTitle", empty when absent
     Rect frame;            // accessibility coordinates
     bool minimized = false;
+    // The file the window shows, as a file URL: its "AXDocument", or for a Finder window the
+    // folder Finder says it shows; none when unknown.
+    std::optional<std::string> document = {};
 
     friend bool operator==(const OpenWindow&, const OpenWindow&) = default;
 };

@@ -19,6 +19,8 @@ inline constexpr std::string_view windows = "AXWindows";
 inline constexpr std::string_view subrole = "AXSubrole";
 inline constexpr std::string_view standardWindow = "AXStandardWindow";
 inline constexpr std::string_view title = "AXTitle";
+// The file a document window shows, as a URL text; absent for windows of other kinds.
+inline constexpr std::string_view document = "AXDocument";
 inline constexpr std::string_view position = "AXPosition";
 inline constexpr std::string_view enhancedUserInterface = "AXEnhancedUserInterface";
 inline constexpr std::string_view pressAction = "AXPress";

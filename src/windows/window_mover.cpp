@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "base/file_url.h"
 #include "base/log.h"
 #include "platform/platform.h"
 #include "tracking/ax.h"
@@ -66,7 +67,8 @@ std::optional<OpenWindow> describe(const AXElement& window, const RunningApplica
                       app.localizedName.value_or(std::string()),
                       AX::string(window, WindowAttribute::title).value_or(std::string()),
                       *frame,
-                      minimized};
+                      minimized,
+                      WindowMover::documentOf(window)};
 }
 
 bool isFinite(const Rect& rect) {
@@ -75,6 +77,13 @@ bool isFinite(const Rect& rect) {
 }
 
 }  // namespace
+
+// A web page's or a remote address says nothing a layout could open again.
+std::optional<std::string> WindowMover::documentOf(const AXElement& window) {
+    std::optional<std::string> document = AX::string(window, WindowAttribute::document);
+    if (document && !FileURL::path(*document)) return std::nullopt;
+    return document;
+}
 
 std::shared_ptr<SerialQueue> WindowMover::queue() {
     return layoutsQueue().get();

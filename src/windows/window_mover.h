@@ -65,6 +65,8 @@ struct WindowMover {
     // while growing lands right the second time). Whether the size was accepted; false
     // without writing when the rectangle holds a non-finite number.
     static bool writeFrame(const AXElement& window, Rect frame);
+    // "AXDocument" when it is a local file's URL; nothing otherwise.
+    static std::optional<std::string> documentOf(const AXElement& window);
     // "AXFullScreen"; false when it cannot be read.
     static bool isFullScreen(const AXElement& window);
 

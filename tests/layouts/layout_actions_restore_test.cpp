@@ -214,8 +214,9 @@ TEST_F(LayoutActionsRestoreTest, RestoringLeavesMissionControlBeforeItCompletes)
     desktop.dock().open();
     std::optional<bool> openWhenDone;
 
-    LayoutActions::restore(layoutOf({notesLeft}),
-                           [&](std::vector<WindowRef>) { openWhenDone = desktop.dock().isOpen(); });
+    LayoutActions::restore(layoutOf({notesLeft}), [&](const LayoutActions::Restored&) {
+        openWhenDone = desktop.dock().isOpen();
+    });
     run();
 
     EXPECT_EQ(openWhenDone, false);

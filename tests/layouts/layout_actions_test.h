@@ -70,7 +70,8 @@ class LayoutActionsTest : public SimTest {
     // Restores and runs the queues; the windows the completion reported.
     std::vector<WindowRef> restore(const SavedLayout& layout) {
         std::optional<std::vector<WindowRef>> moved;
-        LayoutActions::restore(layout, [&](std::vector<WindowRef> result) { moved = result; });
+        LayoutActions::restore(
+            layout, [&](const LayoutActions::Restored& result) { moved = result.moved; });
         run();
         EXPECT_TRUE(moved.has_value()) << "the restore did not complete";
         return moved.value_or(std::vector<WindowRef>{});

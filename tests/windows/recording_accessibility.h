@@ -53,6 +53,7 @@ class RecordingAccessibility : public Accessibility {
                      .appearance = inner.appearance,
                      .launch = inner.launch,
                      .processes = inner.processes,
+                     .scripts = inner.scripts,
                      .fileWriter = inner.fileWriter} {
         installPlatform(&recording_);
     }

@@ -63,6 +63,7 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .appearance = desktop.platform().appearance,
                 .launch = desktop.platform().launch,
                 .processes = desktop.platform().processes,
+                .scripts = desktop.platform().scripts,
                 .fileWriter = desktop.platform().fileWriter} {
     installPlatform(&platform_);
 }

@@ -164,7 +164,7 @@ DFKitViews StatusMenuController::layoutRows() {
             saved, DFKitGlyph::apps, layout.name, std::nullopt,
             rowAction([layout](StatusMenuController&) {
                 Log::info("layouts: restoring \"" + layout.name + "\" from the menu");
-                LayoutActions::restore(layout, [](std::vector<WindowRef>) {});
+                LayoutActions::restore(layout, [](const LayoutActions::Restored&) {});
             }));
     }
     if (!saved.empty()) append<DFKitScrollView>(rows, std::move(saved));

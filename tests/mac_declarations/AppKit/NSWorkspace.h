@@ -31,6 +31,13 @@ VISTREL_MACOS(10.15)
            completionHandler:(nullable void (^)(NSRunningApplication* _Nullable app,
                                                 NSError* _Nullable error))completionHandler
     VISTREL_MACOS(10.15);
+// Opens the files (or folders) with the application; the handler runs on a concurrent queue.
+- (void)openURLs:(NSArray<NSURL*>*)urls
+    withApplicationAtURL:(NSURL*)applicationURL
+           configuration:(NSWorkspaceOpenConfiguration*)configuration
+       completionHandler:(nullable void (^)(NSRunningApplication* _Nullable app,
+                                            NSError* _Nullable error))completionHandler
+    VISTREL_MACOS(10.15);
 @end
 
 // Posted on the workspace's notification centre when the Mac wakes from sleep; no user info.

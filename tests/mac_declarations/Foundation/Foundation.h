@@ -12,6 +12,7 @@
 #include <Foundation/NSDictionary.h>
 #include <Foundation/NSEnumerator.h>
 #include <Foundation/NSError.h>
+#include <Foundation/NSFileHandle.h>
 #include <Foundation/NSFileManager.h>
 #include <Foundation/NSFileManagerTrash.h>
 #include <Foundation/NSGeometry.h>

@@ -13,4 +13,11 @@
 - (void)waitUntilExit;
 // Raises while the task is still running.
 @property(readonly) int terminationStatus;
+// An NSPipe or an NSFileHandle.
+@property(nullable, retain) id standardOutput;
+@property(nullable, retain) id standardError;
+// Called on a queue of the task's own once the task has ended.
+@property(nullable, copy) void (^terminationHandler)(NSTask* task) VISTREL_MACOS(10.7);
+// Sends SIGTERM.
+- (void)terminate;
 @end
