@@ -207,6 +207,26 @@ TEST_F(LayoutsControllerTest, RestoringALayoutWithNoneOfItsWindowsOpenSaysSo) {
     EXPECT_EQ(toast(), "None of its windows are open");
 }
 
+TEST_F(LayoutsControllerTest, RestoringALayoutWhoseFileIsGoneSaysSoInTheToast) {
+    SavedLayout layout;
+    layout.id = UUID::random();
+    layout.name = "Writing";
+    layout.windows.push_back({"com.apple.Notes",
+                              "Notes",
+                              "draft.txt",
+                              {0, 0, 0.5, 1},
+                              std::nullopt,
+                              "file:///nowhere/vistrel-test/draft.txt"});
+    LayoutStore::add(*Shared::store(), layout);
+    for (const SimWindow& window : desktop.windows()) {
+        if (window.title == "Notes") desktop.closeWindow(window.id);
+    }
+    open();
+    controller->restore(0);
+    settle();
+    EXPECT_EQ(toast(), "1 document no longer exists");
+}
+
 TEST_F(LayoutsControllerTest, ASavedLayoutIndexOutOfRangeIsIgnored) {
     storeLayout("Mail", "com.apple.mail");
     open();
