@@ -15,6 +15,8 @@ constexpr std::string_view schemeEnd = "://";
 constexpr std::string_view applyPath = "/apply";
 constexpr std::string_view savePath = "/save";
 constexpr std::string_view undoPath = "/undo";
+constexpr std::string_view unreservedMarks = "-._~";
+constexpr std::string_view hexDigits = "0123456789ABCDEF";
 // The characters a URL may hold as they are (RFC 3986, 2.2 and 2.3), besides letters and
 // digits; the system hands over a URL with every other byte percent-encoded.
 constexpr std::string_view allowedMarks = "-._~:/?#[]@!$&'()*+,;=%";
@@ -27,6 +29,10 @@ LayoutURL::Parsed refuse(std::string reason) {
 
 bool isAlphanumeric(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
+bool unreserved(char c) {
+    return isAlphanumeric(c) || unreservedMarks.find(c) != std::string_view::npos;
 }
 
 bool allowedInURL(char c) {
@@ -84,11 +90,11 @@ LayoutURL::Parsed nameFrom(LayoutURL::Action action, std::optional<std::string_v
 
 }  // namespace
 
-std::optional<std::string> LayoutURL::percentDecoded(std::string_view text) {
+std::optional<std::string> LayoutURL::percentDecoded(std::string_view text, Plus plus) {
     std::string decoded;
     decoded.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '+') {
+        if (text[i] == '+' && plus == Plus::space) {
             decoded += ' ';
         } else if (text[i] != '%') {
             decoded += text[i];
@@ -101,6 +107,27 @@ std::optional<std::string> LayoutURL::percentDecoded(std::string_view text) {
         }
     }
     return decoded;
+}
+
+std::string LayoutURL::percentEncoded(std::string_view text) {
+    std::string encoded;
+    encoded.reserve(text.size());
+    for (const char c : text) {
+        if (unreserved(c)) {
+            encoded += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        encoded += '%';
+        encoded += hexDigits[byte / hexBase];
+        encoded += hexDigits[byte % hexBase];
+    }
+    return encoded;
+}
+
+std::string LayoutURL::applyURL(std::string_view name) {
+    return std::string(scheme) + std::string(schemeEnd) + std::string(host) +
+           std::string(applyPath) + "?" + std::string(nameKey) + "=" + percentEncoded(name);
 }
 
 LayoutURL::Parsed LayoutURL::parse(std::string_view text) {
