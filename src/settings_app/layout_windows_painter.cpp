@@ -49,7 +49,7 @@ void LayoutWindowsPainter::paint(Canvas& canvas, Rect box) const {
         {box.maxX() - inset - copyWidth, headerMid - SettingsWidgets::controlHeight / 2, copyWidth,
          SettingsWidgets::controlHeight},
         copy, false, ink);
-    const TextRun title{"Windows of “" + nameOf(model_.layouts(), *chosen) + "”",
+    const TextRun title{heading(nameOf(model_.layouts(), *chosen)),
                         Font::system(titleSize, FontWeight::semibold), ink(SettingsPalette::label)};
     const double titleRoom = box.width - 3 * inset - copyWidth;
     SettingsText::drawLeft(canvas,

@@ -19,6 +19,8 @@ class LayoutWindowsPainter {
 
     static constexpr std::string_view copyTitle = "Copy URL";
     static constexpr std::string_view noWindows = "This layout has no windows.";
+    // The title over the windows of the layout with that name.
+    static std::string heading(const std::string& name) { return "Windows of “" + name + "”"; }
 
   private:
     void paintWindows(Canvas& canvas, Rect box, const std::vector<LayoutWindowRow>& windows) const;
