@@ -6,13 +6,14 @@
 #include "mac/mac_block_target.h"
 #include "mac/mac_strings.h"
 #include "settings_app/layout_windows_painter.h"
-#include "settings_app/mac/settings_widgets.h"
 
 namespace {
 
 constexpr CGFloat rowSpacing = 4;
 constexpr CGFloat columnSpacing = 12;
+// The applications' names stand in a column so the documents and titles line up.
 constexpr CGFloat appColumnWidth = 140;
+// The title is the list's own heading, in the body's size and a heavier weight.
 constexpr CGFloat titleFontSize = 13;
 
 }  // namespace
@@ -22,7 +23,6 @@ constexpr CGFloat titleFontSize = 13;
     std::optional<vistrel::UUID> shownLayout_;
     std::vector<vistrel::LayoutWindowRow> shownWindows_;
     NSTextField* title_;
-    NSStackView* windows_;
     NSMutableArray<NSView*>* lines_;
     NSMutableArray<VistrelBlockTarget*>* targets_;
 }
@@ -32,10 +32,10 @@ constexpr CGFloat titleFontSize = 13;
     model_ = &model;
     targets_ = [NSMutableArray arrayWithCapacity:1];
     lines_ = [NSMutableArray arrayWithCapacity:8];
+    self.orientation = NSUserInterfaceLayoutOrientationVertical;
+    self.alignment = NSLayoutAttributeLeading;
+    self.spacing = rowSpacing;
     self.translatesAutoresizingMaskIntoConstraints = NO;
-    NSStackView* column =
-        vistrel::SettingsWidgets::stack(NSUserInterfaceLayoutOrientationVertical, rowSpacing);
-    [self addSubview:column];
     title_ = [NSTextField labelWithString:@""];
     title_.font = [NSFont systemFontOfSize:titleFontSize weight:NSFontWeightSemibold];
     __weak VistrelSettingsLayoutWindows* weakSelf = self;
@@ -47,16 +47,7 @@ constexpr CGFloat titleFontSize = 13;
     NSStackView* header = [NSStackView stackViewWithViews:@[ title_, copy ]];
     header.orientation = NSUserInterfaceLayoutOrientationHorizontal;
     header.spacing = columnSpacing;
-    [column addArrangedSubview:header];
-    windows_ =
-        vistrel::SettingsWidgets::stack(NSUserInterfaceLayoutOrientationVertical, rowSpacing);
-    [column addArrangedSubview:windows_];
-    [NSLayoutConstraint activateConstraints:@[
-        [column.topAnchor constraintEqualToAnchor:self.topAnchor],
-        [column.bottomAnchor constraintEqualToAnchor:self.bottomAnchor],
-        [column.leadingAnchor constraintEqualToAnchor:self.leadingAnchor],
-        [column.trailingAnchor constraintEqualToAnchor:self.trailingAnchor],
-    ]];
+    [self addArrangedSubview:header];
     [self refresh];
     return self;
 }
@@ -75,7 +66,8 @@ constexpr CGFloat titleFontSize = 13;
     if (chosen == shownLayout_ && windows == shownWindows_) return;
     shownLayout_ = chosen;
     shownWindows_ = std::move(windows);
-    // A view taken from a stack view's subviews leaves its arranged views too.
+    // A view taken from a stack view's subviews leaves its arranged views too; the header
+    // stays.
     for (NSView* line in lines_)
         [line removeFromSuperview];
     [lines_ removeAllObjects];
@@ -89,7 +81,7 @@ constexpr CGFloat titleFontSize = 13;
     for (const vistrel::LayoutWindowRow& window : shownWindows_)
         [lines_ addObject:[self lineFor:window]];
     for (NSView* line in lines_)
-        [windows_ addArrangedSubview:line];
+        [self addArrangedSubview:line];
 }
 
 // The application, then the document's name (its path as the tool tip) or the title.
