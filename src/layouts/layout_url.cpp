@@ -80,6 +80,15 @@ std::optional<std::string> LayoutURL::percentDecoded(std::string_view text) {
     return PercentEncoding::decoded(text, true);
 }
 
+std::string LayoutURL::percentEncoded(std::string_view text) {
+    return PercentEncoding::encoded(text);
+}
+
+std::string LayoutURL::applyURL(std::string_view name) {
+    return std::string(scheme) + std::string(schemeEnd) + std::string(host) +
+           std::string(applyPath) + "?" + std::string(nameKey) + "=" + percentEncoded(name);
+}
+
 LayoutURL::Parsed LayoutURL::parse(std::string_view text) {
     if (text.size() > maxLength) {
         return refuse("longer than " + std::to_string(maxLength) + " characters");

@@ -31,9 +31,19 @@ struct LayoutURL {
     struct Parsed;
     static Parsed parse(std::string_view text);
 
-    // The text with "%XX" escapes decoded and '+' read as a space; nothing when an escape
-    // is not '%' and two hexadecimal digits.
+    // The text with "%XX" escapes decoded and '+' read as a space, as in a query; nothing
+    // when an escape is not '%' and two hexadecimal digits.
     static std::optional<std::string> percentDecoded(std::string_view text);
+
+    // The URL that applies the layout named `name`: "vistrel://layout/apply?name=" and the
+    // name percent-encoded. parse() gives the name back unless the URL is longer than
+    // maxLength or the name is not one parse() accepts.
+    static std::string applyURL(std::string_view name);
+
+    // The text with every byte but RFC 3986's unreserved characters (letters, digits and
+    // "-._~", 2.3) as "%XX", upper-case: a space is "%20" and a '+' is "%2B", so neither reads
+    // as the other, and a UTF-8 name is escaped byte by byte.
+    static std::string percentEncoded(std::string_view text);
 
     friend bool operator==(const LayoutURL&, const LayoutURL&) = default;
 };

@@ -18,6 +18,7 @@
 #include "mac/mac_modal_alert.h"
 #include "mac/mac_native_menus.h"
 #include "mac/mac_notification_center.h"
+#include "mac/mac_pasteboard.h"
 #include "mac/mac_process_runner.h"
 #include "mac/mac_report_dialog.h"
 #include "mac/mac_save_panel.h"
@@ -63,6 +64,7 @@ class MacPlatform {
                     .alert = alert_,
                     .reportDialog = reportDialog_,
                     .savePanel = savePanel_,
+                    .pasteboard = pasteboard_,
                     .archiver = archiver_,
                     .uploader = uploader_,
                     .fonts = fonts_,
@@ -103,6 +105,7 @@ class MacPlatform {
     MacModalAlert alert_;
     MacReportDialog reportDialog_;
     MacSavePanel savePanel_;
+    MacPasteboard pasteboard_;
     MacArchiver archiver_;
     MacUploader uploader_;
     MacFontRegistrar fonts_;

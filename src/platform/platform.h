@@ -21,6 +21,7 @@
 #include "platform/modal_alert.h"
 #include "platform/native_menu.h"
 #include "platform/notification_center.h"
+#include "platform/pasteboard.h"
 #include "platform/process_runner.h"
 #include "platform/report_dialog.h"
 #include "platform/save_panel.h"
@@ -67,6 +68,7 @@ struct Platform {
     ModalAlert& alert;
     ReportDialog& reportDialog;
     SavePanel& savePanel;
+    Pasteboard& pasteboard;
     Archiver& archiver;
     Uploader& uploader;
     FontRegistrar& fonts;

@@ -7,6 +7,7 @@
 
 #include "base/log.h"
 #include "layouts/layout_store.h"
+#include "layouts/layout_url.h"
 #include "layouts/saved_layout_json.h"
 #include "platform/platform.h"
 #include "settings_app/settings_model.h"
@@ -41,6 +42,14 @@ LayoutListEditor::Outcome failure(std::string_view logLine, std::string message)
     return {false, std::move(message)};
 }
 
+// The saved layout with the id; nothing when it is no longer saved.
+std::optional<SavedLayout> saved(DefaultsStore& store, const UUID& id) {
+    auto layouts = LayoutStore::load(store);
+    const auto found = std::ranges::find(layouts, id, &SavedLayout::id);
+    if (found == layouts.end()) return std::nullopt;
+    return std::move(*found);
+}
+
 }  // namespace
 
 std::vector<LayoutRow> LayoutListEditor::rows() const {
@@ -50,6 +59,36 @@ std::vector<LayoutRow> LayoutListEditor::rows() const {
             {layout.id, layout.name, counted(layout.windows.size(), "window", "windows")});
     }
     return rows;
+}
+
+std::optional<std::vector<LayoutWindowRow>> LayoutListEditor::windows(const UUID& id) const {
+    const auto layout = saved(store_, id);
+    if (!layout) return std::nullopt;
+    std::vector<LayoutWindowRow> rows;
+    for (const SavedLayout::Window& window : layout->windows)
+        rows.push_back(LayoutWindowRow::of(window));
+    return rows;
+}
+
+LayoutListEditor::Outcome LayoutListEditor::copyURL(const UUID& id) {
+    const auto layout = saved(store_, id);
+    if (!layout) return {false, "That layout is no longer saved."};
+    const std::string url = LayoutURL::applyURL(layout->name);
+    if (url.size() > LayoutURL::maxLength) {
+        return failure("layout url not copied: name too long",
+                       "This layout’s name is too long for a URL. Rename it to copy its URL.");
+    }
+    // The URL is read back as the agent will read it: one it would refuse is not copied.
+    const LayoutURL::Parsed parsed = LayoutURL::parse(url);
+    if (!parsed.url) {
+        return failure("layout url not copied: " + parsed.refusal,
+                       "Could not copy the URL: " + parsed.refusal + ".");
+    }
+    if (!platform().pasteboard.copyText(url)) {
+        return failure("layout url not copied: the pasteboard refused it",
+                       "Could not copy the URL: the pasteboard did not take it. Try again.");
+    }
+    return {true, "Copied the URL that restores “" + layout->name + "”."};
 }
 
 LayoutListEditor::Outcome LayoutListEditor::rename(const UUID& id, const std::string& name) {

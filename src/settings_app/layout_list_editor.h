@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "layouts/uuid.h"
 #include "platform/defaults.h"
+#include "settings_app/layout_window_row.h"
 
 namespace vistrel {
 
@@ -24,6 +26,11 @@ class LayoutListEditor {
     explicit LayoutListEditor(DefaultsStore& store) : store_(store) {}
 
     std::vector<LayoutRow> rows() const;
+    // The layout's windows in saved order; nothing when it is no longer saved.
+    std::optional<std::vector<LayoutWindowRow>> windows(const UUID& id) const;
+    // Puts the URL that applies the layout on the pasteboard, unless the URL is one the
+    // agent would refuse (a name too long for one) or the pasteboard does not take it.
+    Outcome copyURL(const UUID& id);
     Outcome rename(const UUID& id, const std::string& name);
     Outcome remove(const UUID& id);
     Outcome move(std::size_t from, std::size_t to);

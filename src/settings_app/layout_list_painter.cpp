@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "settings_app/layout_windows_painter.h"
 #include "settings_app/settings_ink.h"
 #include "settings_app/settings_palette.h"
 #include "settings_app/settings_text.h"
@@ -24,6 +25,8 @@ constexpr double detailSize = 11;
 constexpr double glyphSide = 14;
 constexpr double buttonSpacing = 4;
 constexpr double warningRoom = 14;
+constexpr double selectionInset = 4;
+constexpr double selectionRadius = 5;
 
 // The buttons under the table that act on the chosen row.
 enum class RowButton { remove, moveUp, moveDown };
@@ -58,7 +61,9 @@ double LayoutListPainter::tableHeight() const {
 
 double LayoutListPainter::height() const {
     const double message = model_.layoutsMessage().empty() ? 0 : gap + messageLine;
-    return inset + tableHeight() + gap + SettingsWidgets::controlHeight + message + inset;
+    const double windows = LayoutWindowsPainter(model_, appearance_).height();
+    return inset + tableHeight() + gap + SettingsWidgets::controlHeight +
+           (windows > 0 ? gap + windows : 0) + message + inset;
 }
 
 void LayoutListPainter::paint(Canvas& canvas, Rect row) const {
@@ -66,10 +71,17 @@ void LayoutListPainter::paint(Canvas& canvas, Rect row) const {
     paintTable(canvas, table);
     const Rect bar{table.x, table.maxY() + gap, table.width, SettingsWidgets::controlHeight};
     paintButtons(canvas, bar);
+    // The chosen layout's windows stand between the buttons and the message.
+    const LayoutWindowsPainter windows(model_, appearance_);
+    double bottom = bar.maxY();
+    if (const double windowsHeight = windows.height(); windowsHeight > 0) {
+        windows.paint(canvas, {table.x, bottom + gap, table.width, windowsHeight});
+        bottom += gap + windowsHeight;
+    }
     const std::string& message = model_.layoutsMessage();
     if (message.empty()) return;
     const SettingsInk ink{appearance_};
-    const double midY = bar.maxY() + gap + messageLine / 2;
+    const double midY = bottom + gap + messageLine / 2;
     double x = table.x;
     if (model_.layoutsMessageIsWarning()) {
         SettingsWidgets::drawStatusLight(canvas, {x + warningRoom / 2 - 2, midY}, false, ink);
@@ -93,18 +105,26 @@ void LayoutListPainter::paintTable(Canvas& canvas, Rect table) const {
         SettingsText::drawCentred(canvas, empty, table.mid());
         return;
     }
+    const auto chosen = model_.selectedLayout();
     double y = table.y;
     for (std::size_t i = 0; i < layouts.size(); ++i) {
         const Rect line{table.x, y, table.width, rowHeight};
-        if (i > 0) {
+        // The chosen row is filled with the accent colour, as a focused table shows it.
+        const bool selected = chosen == layouts[i].id;
+        if (selected) {
+            canvas.fill(Path::roundedRect(line.insetBy(selectionInset, 2), selectionRadius),
+                        ink(SettingsPalette::accent));
+        } else if (i > 0 && chosen != layouts[i - 1].id) {
             canvas.fill(Path::rect({line.x + inset, line.y, line.width - 2 * inset, 1}),
                         ink(SettingsPalette::separator));
         }
-        const TextRun detail{layouts[i].detail, Font::system(detailSize),
-                             ink(SettingsPalette::secondaryLabel)};
+        const TextRun detail{
+            layouts[i].detail, Font::system(detailSize),
+            ink(selected ? SettingsPalette::onAccent : SettingsPalette::secondaryLabel)};
         const double detailWidth = SettingsText::width(detail);
         SettingsText::drawRight(canvas, detail, line.maxX() - inset, line.midY());
-        const TextRun name{layouts[i].name, Font::system(nameSize), ink(SettingsPalette::label)};
+        const TextRun name{layouts[i].name, Font::system(nameSize),
+                           ink(selected ? SettingsPalette::onAccent : SettingsPalette::label)};
         const TextRun shown{SettingsText::fitted(name, line.width - 3 * inset - detailWidth),
                             name.font, name.color};
         SettingsText::drawLeft(canvas, shown, line.x + inset, line.midY());

@@ -316,6 +316,29 @@ std::vector<LayoutRow> SettingsModel::layouts() const {
     return LayoutListEditor(*store_).rows();
 }
 
+void SettingsModel::selectLayout(std::optional<UUID> id) {
+    selectedLayout_ = id;
+    changed();
+}
+
+std::optional<UUID> SettingsModel::selectedLayout() const {
+    if (!selectedLayout_ || !LayoutListEditor(*store_).windows(*selectedLayout_)) return {};
+    return selectedLayout_;
+}
+
+std::vector<LayoutWindowRow> SettingsModel::selectedLayoutWindows() const {
+    if (!selectedLayout_) return {};
+    return LayoutListEditor(*store_)
+        .windows(*selectedLayout_)
+        .value_or(std::vector<LayoutWindowRow>{});
+}
+
+bool SettingsModel::copyLayoutURL() {
+    if (!selectedLayout_) return edited(false, "Choose a layout to copy its URL.");
+    auto [ok, message] = LayoutListEditor(*store_).copyURL(*selectedLayout_);
+    return edited(ok, std::move(message));
+}
+
 bool SettingsModel::edited(bool ok, std::string message) {
     layoutsMessage_ = std::move(message);
     layoutsMessageIsWarning_ = !ok && !layoutsMessage_.empty();

@@ -18,6 +18,7 @@
 #include "platform/executor.h"
 #include "settings_app/control_binding.h"
 #include "settings_app/launch_options.h"
+#include "settings_app/layout_window_row.h"
 #include "settings_app/settings_control.h"
 
 namespace vistrel {
@@ -110,6 +111,15 @@ class SettingsModel {
 
     // --- Saved layouts -------------------------------------------------------------------
     std::vector<LayoutRow> layouts() const;
+    // Chooses the layout whose windows show under the list (nothing chooses none).
+    void selectLayout(std::optional<UUID> id);
+    // The chosen layout while it is still saved.
+    std::optional<UUID> selectedLayout() const;
+    // The chosen layout's windows in saved order; empty when none is chosen.
+    std::vector<LayoutWindowRow> selectedLayoutWindows() const;
+    // Puts the URL that restores the chosen layout on the pasteboard; false with a message
+    // when none is chosen, its name is too long for a URL or the pasteboard refused it.
+    bool copyLayoutURL();
     // Renames the layout; an empty (or all-space) name is refused with a message.
     bool renameLayout(const UUID& id, const std::string& name);
     void deleteLayout(const UUID& id);
@@ -160,6 +170,7 @@ class SettingsModel {
     std::size_t welcomeStep_ = 0;
     bool replay_ = false;
     bool visible_ = false;
+    std::optional<UUID> selectedLayout_;
     std::string layoutsMessage_;
     bool layoutsMessageIsWarning_ = false;
     std::map<std::string, DefaultsValue> lastSeen_;

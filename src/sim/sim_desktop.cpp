@@ -51,6 +51,7 @@ SimDesktop::SimDesktop()
                 .alert = alert_,
                 .reportDialog = reportDialog_,
                 .savePanel = savePanel_,
+                .pasteboard = pasteboard_,
                 .archiver = archiver_,
                 .uploader = uploader_,
                 .fonts = fonts_,

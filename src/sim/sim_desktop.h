@@ -30,6 +30,7 @@
 #include "sim/sim_model.h"
 #include "sim/sim_native_menus.h"
 #include "sim/sim_notification_center.h"
+#include "sim/sim_pasteboard.h"
 #include "sim/sim_process_runner.h"
 #include "sim/sim_report_dialog.h"
 #include "sim/sim_save_panel.h"
@@ -85,6 +86,7 @@ class SimDesktop {
     SimModalAlert& alert() { return alert_; }
     SimReportDialog& reportDialog() { return reportDialog_; }
     SimSavePanel& savePanel() { return savePanel_; }
+    SimPasteboard& pasteboard() { return pasteboard_; }
     SimArchiver& archiver() { return archiver_; }
     SimUploader& uploader() { return uploader_; }
     SimFontRegistrar& fonts() { return fonts_; }
@@ -202,6 +204,7 @@ class SimDesktop {
     SimModalAlert alert_;
     SimReportDialog reportDialog_;
     SimSavePanel savePanel_;
+    SimPasteboard pasteboard_;
     SimArchiver archiver_;
     SimUploader uploader_;
     SimFontRegistrar fonts_{bundle.path};

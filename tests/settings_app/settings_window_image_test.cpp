@@ -68,6 +68,40 @@ TEST_F(SettingsWindowImageTest, LayoutsTurnedOffWithAMessageMatchesTheReference)
     EXPECT_TRUE(matchesReference(picture(Appearance::light), "settings_layouts_light"));
 }
 
+// A chosen layout with a web page, a document and a Finder folder, its URL just copied.
+void chooseADeskWithDocuments(SettingsModel& model, SimDefaultsStore& domain) {
+    const SavedLayout desk{UUID::random(),
+                           "Morning desk",
+                           {{"com.apple.Safari", "Safari", "Vistrel — Layouts", {0, 0, 0.5, 1}, {}},
+                            {"com.apple.TextEdit",
+                             "TextEdit",
+                             "Meeting Notes.txt — Edited",
+                             {0.5, 0, 0.5, 0.5},
+                             {},
+                             "file:///Users/ada/Documents/Meeting%20Notes.txt"},
+                            {"com.apple.finder",
+                             "Finder",
+                             "Projects",
+                             {0.5, 0.5, 0.5, 0.5},
+                             {},
+                             "file:///Users/ada/Projects/"}},
+                           700'000'000};
+    LayoutStore::add(domain, desk);
+    model.selectPage(PageId::layouts);
+    model.selectLayout(desk.id);
+    model.copyLayoutURL();
+}
+
+TEST_F(SettingsWindowImageTest, LayoutsWithAChosenLayoutShowsItsWindowsMatchesTheReference) {
+    chooseADeskWithDocuments(*model, *domain);
+    EXPECT_TRUE(matchesReference(picture(Appearance::light), "settings_layouts_chosen_light"));
+}
+
+TEST_F(SettingsWindowImageTest, LayoutsWithAChosenLayoutDarkMatchesTheReference) {
+    chooseADeskWithDocuments(*model, *domain);
+    EXPECT_TRUE(matchesReference(picture(Appearance::dark), "settings_layouts_chosen_dark"));
+}
+
 TEST_F(SettingsWindowImageTest, AboutLightMatchesTheReference) {
     model->selectPage(PageId::about);
     EXPECT_TRUE(matchesReference(picture(Appearance::light), "settings_about_light"));

@@ -43,6 +43,7 @@ class RecordingAccessibility : public Accessibility {
                      .alert = inner.alert,
                      .reportDialog = inner.reportDialog,
                      .savePanel = inner.savePanel,
+                     .pasteboard = inner.pasteboard,
                      .archiver = inner.archiver,
                      .uploader = inner.uploader,
                      .fonts = inner.fonts,

@@ -53,6 +53,7 @@ EchoingPlatform::EchoingPlatform(SimDesktop& desktop, SystemLog& log)
                 .alert = desktop.platform().alert,
                 .reportDialog = desktop.platform().reportDialog,
                 .savePanel = desktop.platform().savePanel,
+                .pasteboard = desktop.platform().pasteboard,
                 .archiver = desktop.platform().archiver,
                 .uploader = desktop.platform().uploader,
                 .fonts = desktop.platform().fonts,

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -80,19 +81,38 @@ bool writeWindow(const SettingsModel& model, Appearance appearance, const fs::pa
     return surface.writePng(path);
 }
 
-// A few layouts a user saved, so the Layouts page has a list to show.
+SavedLayout::Window savedWindow(std::string_view app, std::string_view title,
+                                std::optional<std::string> document = {}) {
+    return {"com.example." + std::string(app),
+            std::string(app),
+            std::string(title),
+            {0, 0, 0.5, 1},
+            {},
+            std::move(document)};
+}
+
+// A few layouts a user saved, so the Layouts page has a list to show; the last one's windows
+// show documents and a Finder folder.
 void saveSomeLayouts(DefaultsStore& store) {
-    const std::array<std::pair<std::string_view, int>, 3> saved = {
-        {{"Writing", 2}, {"Safari · Mail · Notes", 3}, {"Code review", 4}}};
-    for (const auto& [name, windows] : saved) {
-        SavedLayout layout;
-        layout.id = UUID::random();
-        layout.name = name;
-        for (int i = 0; i < windows; ++i) {
-            layout.windows.push_back({"com.apple.Safari", "Safari", "", {0, 0, 0.5, 1}, {}});
-        }
+    const std::array<SavedLayout, 3> saved = {{
+        {UUID::random(),
+         "Writing",
+         {savedWindow("TextEdit", "Chapter 3.txt", "file:///Users/ada/Book/Chapter%203.txt"),
+          savedWindow("Safari", "Thesaurus")}},
+        {UUID::random(),
+         "Safari · Mail · Notes",
+         {savedWindow("Safari", "Start Page"), savedWindow("Mail", "Inbox"),
+          savedWindow("Notes", "Groceries")}},
+        {UUID::random(),
+         "Code review",
+         {savedWindow("Xcode", "Vistrel — layout_url.cpp",
+                      "file:///Users/ada/Projects/Vistrel/src/layouts/layout_url.cpp"),
+          savedWindow("Terminal", "ada — zsh — 80×24"),
+          savedWindow("Finder", "Vistrel", "file:///Users/ada/Projects/Vistrel/"),
+          savedWindow("Safari", "Pull request #26")}},
+    }};
+    for (const SavedLayout& layout : saved)
         LayoutStore::add(store, layout);
-    }
 }
 
 class SettingsSession {
@@ -135,6 +155,13 @@ class SettingsSession {
             model.selectPage(page.id);
             if (!picture(model, appearance, "page_" + lowered(page.title))) return false;
         }
+        // The last saved layout chosen, its windows under the list and its URL copied.
+        model.selectPage(PageId::layouts);
+        model.selectLayout(model.layouts().back().id);
+        model.copyLayoutURL();
+        context_.out << "  " << model.layoutsMessage() << " The pasteboard holds "
+                     << desktop_.pasteboard().text().value_or("nothing") << "\n";
+        if (!picture(model, appearance, "page_layouts_chosen")) return false;
         context_.out << "\n";
         return true;
     }

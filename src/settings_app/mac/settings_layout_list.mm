@@ -1,11 +1,13 @@
 #include "settings_app/mac/settings_layout_list.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
 #include "mac/mac_block_target.h"
 #include "mac/mac_strings.h"
 #include "platform/platform.h"
+#include "settings_app/mac/settings_layout_windows.h"
 
 namespace {
 
@@ -23,6 +25,7 @@ NSString* const detailColumn = @"detail";
     std::string controlId_;
     std::vector<vistrel::LayoutRow> rows_;
     NSTableView* table_;
+    VistrelSettingsLayoutWindows* windows_;
     NSTextField* message_;
     NSArray<NSButton*>* selectionButtons_;
     NSMutableArray<VistrelBlockTarget*>* targets_;
@@ -44,6 +47,8 @@ NSString* const detailColumn = @"detail";
     NSScrollView* scroll = [self makeTable];
     [column addArrangedSubview:scroll];
     [column addArrangedSubview:[self makeButtons]];
+    windows_ = [[VistrelSettingsLayoutWindows alloc] initWithModel:model];
+    [column addArrangedSubview:windows_];
     message_ = [NSTextField wrappingLabelWithString:@""];
     message_.textColor = NSColor.secondaryLabelColor;
     [column addArrangedSubview:message_];
@@ -54,6 +59,7 @@ NSString* const detailColumn = @"detail";
         [column.trailingAnchor constraintEqualToAnchor:self.trailingAnchor],
         [scroll.widthAnchor constraintEqualToAnchor:column.widthAnchor],
         [scroll.heightAnchor constraintEqualToConstant:tableHeight],
+        [windows_.widthAnchor constraintEqualToAnchor:column.widthAnchor],
     ]];
     [self refresh];
     return self;
@@ -112,13 +118,27 @@ NSString* const detailColumn = @"detail";
     if (rows != rows_) {
         rows_ = std::move(rows);
         [table_ reloadData];
+        [self showChosenRow];
     }
+    [windows_ refresh];
     message_.stringValue = vistrel::nsString(model_->layoutsMessage());
     message_.textColor =
         model_->layoutsMessageIsWarning() ? NSColor.systemOrangeColor : NSColor.secondaryLabelColor;
     const bool enabled = model_->isEnabled(controlId_);
     table_.enabled = enabled;
     [self updateButtons];
+}
+
+// The table's selection follows the layout the model has chosen, wherever the reload put it.
+- (void)showChosenRow {
+    const std::optional<vistrel::UUID> chosen = model_->selectedLayout();
+    const auto found = std::ranges::find(rows_, chosen, &vistrel::LayoutRow::id);
+    if (!chosen || found == rows_.end()) {
+        [table_ deselectAll:nil];
+        return;
+    }
+    const auto row = static_cast<NSUInteger>(found - rows_.begin());
+    [table_ selectRowIndexes:[NSIndexSet indexSetWithIndex:row] byExtendingSelection:NO];
 }
 
 - (void)updateButtons {
@@ -205,6 +225,12 @@ NSString* const detailColumn = @"detail";
 - (void)tableViewSelectionDidChange:(NSNotification*)notification {
     (void)notification;
     [self updateButtons];
+    const NSInteger selected = table_.selectedRow;
+    std::optional<vistrel::UUID> chosen;
+    if (selected >= 0 && selected < static_cast<NSInteger>(rows_.size()))
+        chosen = rows_[static_cast<std::size_t>(selected)].id;
+    // Told only of a change: the model's observers refresh this list, which sets the row again.
+    if (chosen != model_->selectedLayout()) model_->selectLayout(chosen);
 }
 
 @end

@@ -32,6 +32,7 @@
 #include <AppKit/NSModalResponse.h>
 #include <AppKit/NSOpenPanel.h>
 #include <AppKit/NSPanel.h>
+#include <AppKit/NSPasteboard.h>
 #include <AppKit/NSPopUpButton.h>
 #include <AppKit/NSResponder.h>
 #include <AppKit/NSRunningApplication.h>

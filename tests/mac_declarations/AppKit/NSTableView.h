@@ -49,5 +49,6 @@ VISTREL_ENUM(NSInteger, NSTableViewStyle){
 // -1 when no row is selected.
 @property(readonly) NSInteger selectedRow;
 - (void)selectRowIndexes:(NSIndexSet*)indexes byExtendingSelection:(BOOL)extend VISTREL_MACOS(10.3);
+- (void)deselectAll:(nullable id)sender;
 - (void)reloadData;
 @end

@@ -25,4 +25,5 @@ VISTREL_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (void)addSubview:(NSView*)view;
 - (void)removeFromSuperview;
 @property(getter=isHidden) BOOL hidden;
+@property(nullable, copy) NSString* toolTip;
 @end

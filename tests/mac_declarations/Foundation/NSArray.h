@@ -13,4 +13,5 @@
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
 + (instancetype)arrayWithCapacity:(NSUInteger)numItems;
 - (void)addObject:(ObjectType)anObject;
+- (void)removeAllObjects;
 @end
