@@ -28,6 +28,18 @@ TEST(URLSchemeDeclaration, TheAgentsBundleDeclaresTheSchemeItReads) {
     EXPECT_EQ(match[1].str(), LayoutURL::scheme);
 }
 
+// macOS asks the user before Vistrel may have osascript ask Finder for its windows' folders,
+// and shows the bundle's NSAppleEventsUsageDescription in that question; an application that
+// declares none is refused without being asked.
+TEST(AutomationDeclaration, TheAgentsBundleSaysWhyItAsksFinder) {
+    const std::regex declared(
+        R"(<key>NSAppleEventsUsageDescription</key>\s*<string>([^<]+)</string>)");
+    std::smatch match;
+    const std::string plist = agentInfoPlist();
+    ASSERT_TRUE(std::regex_search(plist, match, declared));
+    EXPECT_NE(match[1].str().find("Finder"), std::string::npos);
+}
+
 TEST(URLSchemeDeclaration, TheSettingsAppDoesNotClaimTheScheme) {
     std::ifstream file(std::string(VISTREL_SOURCE_DIR) + "/src/settings_app/mac/Info.plist.in");
     std::stringstream text;
