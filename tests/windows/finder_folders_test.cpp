@@ -74,6 +74,14 @@ class FinderFoldersTest : public SimTest {
         }
         return 0;
     }
+    // A window of Notes, which answers "AXDocument", showing the document.
+    void openInNotes(const std::string& title, const std::string& document) {
+        SimWindow window;
+        window.title = title;
+        window.frame = {100, 100, 500, 400};
+        window.document = document;
+        desktop.addWindow(notesPid(), window);
+    }
     static std::optional<std::string> documentOf(const std::vector<OpenWindow>& windows,
                                                  const std::string& title) {
         for (const OpenWindow& window : windows) {
@@ -116,12 +124,7 @@ TEST_F(FinderFoldersTest, FinderIsNotAskedWhenNoFinderWindowIsListed) {
 }
 
 TEST_F(FinderFoldersTest, OtherApplicationsDocumentsComeFromTheirAXDocument) {
-    const Pid notes = notesPid();
-    SimWindow text;
-    text.title = "Notes.txt";
-    text.frame = {100, 100, 500, 400};
-    text.document = "file:///Users/ada/Notes.txt";
-    desktop.addWindow(notes, text);
+    openInNotes("Notes.txt", "file:///Users/ada/Notes.txt");
     const auto windows = WindowMover::visibleWindows();
     EXPECT_EQ(documentOf(windows, "Notes.txt"), "file:///Users/ada/Notes.txt");
     // Finder answers none through accessibility.
@@ -129,12 +132,7 @@ TEST_F(FinderFoldersTest, OtherApplicationsDocumentsComeFromTheirAXDocument) {
 }
 
 TEST_F(FinderFoldersTest, AnAXDocumentThatIsNotALocalFileIsNoDocument) {
-    const Pid notes = notesPid();
-    SimWindow page;
-    page.title = "Example";
-    page.frame = {100, 100, 500, 400};
-    page.document = "https://example.com/";
-    desktop.addWindow(notes, page);
+    openInNotes("Example", "https://example.com/");
     EXPECT_EQ(documentOf(WindowMover::visibleWindows(), "Example"), std::nullopt);
 }
 
