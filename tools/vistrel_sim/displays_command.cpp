@@ -105,8 +105,8 @@ void DisplaysSession::describe(const std::string& title) {
     const SimWindow* found = window(title);
     if (found == nullptr) return;
     const Rect& f = found->frame;
-    rig_.out() << "  " << title << " at " << f.x << "," << f.y << " " << f.width << "×"
-               << f.height << "\n";
+    rig_.out() << "  " << title << " at " << f.x << "," << f.y << " " << f.width << "×" << f.height
+               << "\n";
 }
 
 void DisplaysSession::plug() {
@@ -162,8 +162,8 @@ bool DisplaysSession::pluggedInAgain() {
 }
 
 bool DisplaysSession::restored() {
-    const std::string row = "Restore \"" + DisplayFollower::shared().offer()->name +
-                            "\" for these displays";
+    const std::string row =
+        "Restore \"" + DisplayFollower::shared().offer()->name + "\" for these displays";
     if (!rig_.clickPanelRow(row)) return false;
     rig_.desktop().executor().advance(restoreSettle);
     describe("Start Page");
