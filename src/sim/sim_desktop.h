@@ -47,6 +47,27 @@
 
 namespace vistrel {
 
+// What macOS does to windows and notifications when displays come and go. Public reports
+// differ, by macOS version and by application, so each way is a variant a test can choose.
+struct SimDisplayBehavior {
+    // Where the windows of an unplugged display go.
+    enum class Unplugged {
+        // onto the primary display (aluxian/Messenger-for-Desktop issue 427: "all other
+        // application's windows are gathered to the MacBook Pro's internal display");
+        gathered,
+        // nowhere: they keep coordinates off every screen (manaflow-ai/cmux issue 2824
+        // measured x=956 y=-324 on a 1512×982 display after the unplug).
+        leftOffScreen,
+    };
+    Unplugged unplugged = Unplugged::gathered;
+    // The screen-parameters notification comes again a moment after the first, as displays
+    // reconnect in stages (gtarpenning/agent-island, ScreenObserver.swift, debounces it).
+    bool toldInStages = true;
+    // macOS itself puts the windows back when the same display returns (rxhanson/Rectangle
+    // issue 777: "MacOS was taking care of this issue perfectly").
+    bool replugRestores = false;
+};
+
 // The simulated screen size every scene starts with.
 inline constexpr Rect simPrimaryScreen{0, 0, 1440, 900};
 // The menu bar's and the Dock's share of a simulated screen, in points.
@@ -148,15 +169,22 @@ class SimDesktop {
     // and moves the windows of an unplugged display onto the primary one. While the Mac
     // sleeps nothing is told; waking tells of the wake, and of any change made meanwhile.
     void plugDisplay(std::uint32_t displayID, Size size);
+    SimDisplayBehavior displayBehavior;
+    // The second stage of a display change comes this long after the first.
+    static constexpr double secondStage = 0.6;
     void unplugDisplay(std::uint32_t displayID);
     // Closing the laptop's lid with another display connected takes the built-in display away
-    // and makes the next one primary (with none, the Mac sleeps); opening it brings the
-    // built-in display back as the primary one, the others where they were beside it.
+    // and makes the next one primary, as in clamshell use (rxhanson/Rectangle issue 777); with
+    // none the Mac sleeps (shakeiton.app, closed-lid mode: "your Mac will still sleep on
+    // lid-close"). Opening it brings the built-in display back as the primary one, the others
+    // where they were beside it.
     void closeLid();
     void openLid();
-    void sleep();
+    // The Mac goes to sleep (NSWorkspace's didWakeNotification, Apple's documentation, is
+    // posted when it wakes), and wakes.
+    void suspend();
     void wake();
-    bool asleep() const { return asleep_; }
+    bool suspended() const { return suspended_; }
     // The screens' frames in accessibility coordinates (origin at the primary's top-left).
     std::vector<Rect> accessibilityScreenFrames() const;
 
@@ -224,13 +252,15 @@ class SimDesktop {
     std::vector<SimApplication> applications_;
     std::vector<SimWindow> windows_;
     std::vector<ScreenDescription> screens_;
-    bool asleep_ = false;
+    bool suspended_ = false;
     // The built-in display while the lid is closed, and where the new primary display stood
     // (its AppKit and its accessibility origin) when the lid closed.
+    // The frames of the windows each unplugged display held, for a macOS that puts them back.
+    std::map<std::uint32_t, std::vector<std::pair<SimWindowId, Rect>>> unpluggedFrames_;
     std::optional<ScreenDescription> lidClosed_;
     Point closedAppKitOrigin_;
     Point closedAccessibilityOrigin_;
-    bool changedWhileAsleep_ = false;
+    bool changedWhileSuspended_ = false;
     SimWindowId nextWindowId_ = 1;
     Pid nextPid_ = 500;
 };

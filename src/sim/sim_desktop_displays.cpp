@@ -8,10 +8,6 @@ namespace vistrel {
 
 namespace {
 
-// macOS posts the screen-parameters notification more than once for one plug, as displays
-// reconnect in stages (gtarpenning/agent-island, ScreenObserver.swift, debounces it for this).
-constexpr double secondStage = 0.6;
-
 // The frame moved inside the area, keeping its offset from the area's corner where it can and
 // shrinking it where it is larger.
 Rect keptInside(Rect frame, Rect from, Rect area) {
@@ -26,6 +22,12 @@ Rect keptInside(Rect frame, Rect from, Rect area) {
 
 void SimDesktop::plugDisplay(std::uint32_t displayID, Size size) {
     addScreenToTheRight(size, displayID);
+    if (displayBehavior.replugRestores) {
+        for (const auto& [id, frame] : unpluggedFrames_[displayID]) {
+            if (SimWindow* found = window(id); found != nullptr && !found->closed) found->frame = frame;
+        }
+    }
+    unpluggedFrames_.erase(displayID);
     tellDisplaysChanged();
 }
 
@@ -34,7 +36,13 @@ void SimDesktop::unplugDisplay(std::uint32_t displayID) {
     for (std::size_t i = 1; i < screens_.size(); ++i) {
         if (screens_[i].displayID != displayID) continue;
         screens_.erase(screens_.begin() + static_cast<std::ptrdiff_t>(i));
-        gatherWindowsFrom(frames[i]);
+        auto& held = unpluggedFrames_[displayID];
+        for (const SimWindow& window : windows_) {
+            if (frames[i].contains(window.frame.mid())) held.emplace_back(window.id, window.frame);
+        }
+        if (displayBehavior.unplugged == SimDisplayBehavior::Unplugged::gathered) {
+            gatherWindowsFrom(frames[i]);
+        }
         tellDisplaysChanged();
         return;
     }
@@ -43,7 +51,7 @@ void SimDesktop::unplugDisplay(std::uint32_t displayID) {
 void SimDesktop::closeLid() {
     if (lidClosed_) return;
     if (screens_.size() < 2) {
-        sleep();
+        suspend();
         return;
     }
     const std::vector<Rect> frames = accessibilityScreenFrames();
@@ -62,7 +70,7 @@ void SimDesktop::closeLid() {
 
 void SimDesktop::openLid() {
     if (!lidClosed_) {
-        if (asleep_) wake();
+        if (suspended_) wake();
         return;
     }
     shiftEverything(closedAppKitOrigin_, closedAccessibilityOrigin_);
@@ -84,25 +92,26 @@ void SimDesktop::shiftEverything(Point appKit, Point accessibility) {
     }
 }
 
-void SimDesktop::sleep() {
-    asleep_ = true;
+void SimDesktop::suspend() {
+    suspended_ = true;
 }
 
 void SimDesktop::wake() {
-    asleep_ = false;
+    suspended_ = false;
     displayWatch_.post();
-    if (changedWhileAsleep_) tellDisplaysChanged();
-    changedWhileAsleep_ = false;
+    if (changedWhileSuspended_) tellDisplaysChanged();
+    changedWhileSuspended_ = false;
 }
 
 void SimDesktop::tellDisplaysChanged() {
-    if (asleep_) {
-        changedWhileAsleep_ = true;
+    if (suspended_) {
+        changedWhileSuspended_ = true;
         return;
     }
     displayWatch_.post();
+    if (!displayBehavior.toldInStages) return;
     executor_.main().after(secondStage, [this] {
-        if (!asleep_) displayWatch_.post();
+        if (!suspended_) displayWatch_.post();
     });
 }
 

@@ -14,11 +14,20 @@ constexpr UnitRect rightHalf{0.5, 0, 0.5, 1};
 constexpr Rect studioLeft{1440, 25, 960, 985};
 constexpr Rect studioRight{2400, 25, 960, 985};
 
-class FollowDisplaysTest : public DisplayFollowerTest {
+// Every way macOS may treat windows and notifications as displays come and go.
+class FollowDisplaysTest : public DisplayFollowerTest,
+                           public ::testing::WithParamInterface<SimDisplayBehavior> {
   protected:
+    FollowDisplaysTest() { desktop.displayBehavior = GetParam(); }
+
+    // When the last notification of a plug or unplug made now comes.
+    double lastStage() const { return GetParam().toldInStages ? SimDesktop::secondStage : 0; }
+
     // At the desk: Notes and Safari side by side on the Studio Display; then unplugged.
     SavedLayout saveAtTheDesk() {
         plug(studio, studioSize);
+        window("Notes").frame = studioLeft;
+        window("Start Page").frame = studioRight;
         const std::string display = Screens::snapshot().back().id;
         const SavedLayout desk =
             save("Desk", {{"com.apple.Notes", "Notes", "Notes", leftHalf, display},
@@ -30,12 +39,12 @@ class FollowDisplaysTest : public DisplayFollowerTest {
 
 }  // namespace
 
-TEST_F(FollowDisplaysTest, PluggingTheDeskInAgainOffersItsLayoutOnceTheDisplaysHaveSettled) {
+TEST_P(FollowDisplaysTest, PluggingTheDeskInAgainOffersItsLayoutOnceTheDisplaysHaveSettled) {
     saveAtTheDesk();
 
     desktop.plugDisplay(studio, studioSize);
-    // The second stage of the plug comes after 0.6 s; the wait starts again from it.
-    advance(2.5);
+    // The wait starts again from the plug's last stage.
+    advance(lastStage() + DisplayFollower::settleSeconds - 0.1);
     EXPECT_EQ(offered(), std::nullopt);
     advance(0.2);
 
@@ -43,7 +52,7 @@ TEST_F(FollowDisplaysTest, PluggingTheDeskInAgainOffersItsLayoutOnceTheDisplaysH
     EXPECT_EQ(logged("layouts: the displays changed; offering \"Desk\" for these displays"), 1u);
 }
 
-TEST_F(FollowDisplaysTest, TheLatestLayoutSavedOnTheseDisplaysIsTheOneChosen) {
+TEST_P(FollowDisplaysTest, TheLatestLayoutSavedOnTheseDisplaysIsTheOneChosen) {
     saveAtTheDesk();
     advance(60);
     plug(studio, studioSize);
@@ -55,7 +64,7 @@ TEST_F(FollowDisplaysTest, TheLatestLayoutSavedOnTheseDisplaysIsTheOneChosen) {
     EXPECT_EQ(offered(), "Desk, afternoon");
 }
 
-TEST_F(FollowDisplaysTest, EachSetOfDisplaysGetsTheLayoutSavedOnIt) {
+TEST_P(FollowDisplaysTest, EachSetOfDisplaysGetsTheLayoutSavedOnIt) {
     save("Laptop", {{"com.apple.Notes", "Notes", "Notes", leftHalf, std::nullopt}});
     saveAtTheDesk();
     plug(projector, projectorSize);
@@ -71,7 +80,7 @@ TEST_F(FollowDisplaysTest, EachSetOfDisplaysGetsTheLayoutSavedOnIt) {
     EXPECT_EQ(offered(), "Meeting room");
 }
 
-TEST_F(FollowDisplaysTest, DisplaysNoLayoutWasSavedOnOfferNothingAndSaySoOnce) {
+TEST_P(FollowDisplaysTest, DisplaysNoLayoutWasSavedOnOfferNothingAndSaySoOnce) {
     saveAtTheDesk();
     const std::string_view line =
         "layouts: the displays changed; no layout was saved on these displays";
@@ -83,7 +92,7 @@ TEST_F(FollowDisplaysTest, DisplaysNoLayoutWasSavedOnOfferNothingAndSaySoOnce) {
     EXPECT_EQ(logged(line), before + 1);
 }
 
-TEST_F(FollowDisplaysTest, ADisplayThatFlickersInsideTwoSecondsDoesNothing) {
+TEST_P(FollowDisplaysTest, ADisplayThatFlickersInsideTwoSecondsDoesNothing) {
     saveAtTheDesk();
     const std::size_t linesBefore = log().size();
 
@@ -96,7 +105,7 @@ TEST_F(FollowDisplaysTest, ADisplayThatFlickersInsideTwoSecondsDoesNothing) {
     EXPECT_EQ(log().size(), linesBefore);
 }
 
-TEST_F(FollowDisplaysTest, TheOfferGoesWhenTheDisplaysChangeAgain) {
+TEST_P(FollowDisplaysTest, TheOfferGoesWhenTheDisplaysChangeAgain) {
     saveAtTheDesk();
     plug(studio, studioSize);
     ASSERT_EQ(offered(), "Desk");
@@ -106,7 +115,7 @@ TEST_F(FollowDisplaysTest, TheOfferGoesWhenTheDisplaysChangeAgain) {
     EXPECT_EQ(offered(), std::nullopt);
 }
 
-TEST_F(FollowDisplaysTest, AcceptingTheOfferPutsTheWindowsBackAndEndsTheOffer) {
+TEST_P(FollowDisplaysTest, AcceptingTheOfferPutsTheWindowsBackAndEndsTheOffer) {
     saveAtTheDesk();
     plug(studio, studioSize);
 
@@ -119,7 +128,7 @@ TEST_F(FollowDisplaysTest, AcceptingTheOfferPutsTheWindowsBackAndEndsTheOffer) {
     EXPECT_TRUE(LayoutUndo::shared().available());
 }
 
-TEST_F(FollowDisplaysTest, AnOfferWhoseLayoutWasDeletedSaysSoAndMovesNothing) {
+TEST_P(FollowDisplaysTest, AnOfferWhoseLayoutWasDeletedSaysSoAndMovesNothing) {
     const SavedLayout desk = saveAtTheDesk();
     plug(studio, studioSize);
     LayoutStore::remove(*Shared::store(), desk.id);
@@ -132,7 +141,7 @@ TEST_F(FollowDisplaysTest, AnOfferWhoseLayoutWasDeletedSaysSoAndMovesNothing) {
     EXPECT_EQ(logged("layouts: \"Desk\" was deleted before it could be restored"), 1u);
 }
 
-TEST_F(FollowDisplaysTest, AutomaticRestoresAtOnceWithoutLaunchingAnything) {
+TEST_P(FollowDisplaysTest, AutomaticRestoresAtOnceWithoutLaunchingAnything) {
     setFollow(FollowDisplays::automatic);
     plug(studio, studioSize);
     const std::string display = Screens::snapshot().back().id;
@@ -150,25 +159,29 @@ TEST_F(FollowDisplaysTest, AutomaticRestoresAtOnceWithoutLaunchingAnything) {
     EXPECT_TRUE(LayoutUndo::shared().available());
 }
 
-TEST_F(FollowDisplaysTest, AnAutomaticRestoreIsUndoneLikeAnyOther) {
+TEST_P(FollowDisplaysTest, AnAutomaticRestoreIsUndoneLikeAnyOther) {
     setFollow(FollowDisplays::automatic);
     saveAtTheDesk();
-    const Rect notesOnTheLaptop = window("Notes").frame;
-    plug(studio, studioSize);
+    desktop.plugDisplay(studio, studioSize);
+    // Where macOS left Notes as the display came back, before the restore.
+    const Rect beforeTheRestore = window("Notes").frame;
+    settle();
     ASSERT_EQ(window("Notes").frame, studioLeft);
 
     LayoutActions::undo({});
     run();
 
-    EXPECT_EQ(window("Notes").frame, notesOnTheLaptop);
+    EXPECT_EQ(window("Notes").frame, beforeTheRestore);
 }
 
-TEST_F(FollowDisplaysTest, OffLeavesTheWindowsAloneAndSaysWhyOnce) {
+TEST_P(FollowDisplaysTest, OffLeavesTheWindowsAloneAndSaysWhyOnce) {
     setFollow(FollowDisplays::off);
     saveAtTheDesk();
-    const Rect before = window("Notes").frame;
 
-    plug(studio, studioSize);
+    desktop.plugDisplay(studio, studioSize);
+    // Where macOS left Notes as the display came back.
+    const Rect before = window("Notes").frame;
+    settle();
 
     EXPECT_EQ(offered(), std::nullopt);
     EXPECT_EQ(window("Notes").frame, before);
@@ -177,7 +190,7 @@ TEST_F(FollowDisplaysTest, OffLeavesTheWindowsAloneAndSaysWhyOnce) {
               1u);
 }
 
-TEST_F(FollowDisplaysTest, WithLayoutsTurnedOffNothingIsOffered) {
+TEST_P(FollowDisplaysTest, WithLayoutsTurnedOffNothingIsOffered) {
     saveAtTheDesk();
     setPreference(PreferenceKey::layoutsEnabled, false);
 
@@ -186,7 +199,7 @@ TEST_F(FollowDisplaysTest, WithLayoutsTurnedOffNothingIsOffered) {
     EXPECT_EQ(offered(), std::nullopt);
 }
 
-TEST_F(FollowDisplaysTest, TheLidClosedAtTheDeskIsASetOfItsOwn) {
+TEST_P(FollowDisplaysTest, TheLidClosedAtTheDeskIsASetOfItsOwn) {
     plug(studio, studioSize);
     save("Desk", {{"com.apple.Notes", "Notes", "Notes", leftHalf, std::nullopt}});
     desktop.closeLid();
@@ -203,14 +216,14 @@ TEST_F(FollowDisplaysTest, TheLidClosedAtTheDeskIsASetOfItsOwn) {
     EXPECT_EQ(offered(), "Lid closed");
 }
 
-TEST_F(FollowDisplaysTest, WakingAtTheSameDisplaysDoesNothing) {
+TEST_P(FollowDisplaysTest, WakingAtTheSameDisplaysDoesNothing) {
     saveAtTheDesk();
     plug(studio, studioSize);
     follower().acceptOffer();
     run();
     const std::size_t linesBefore = log().size();
 
-    desktop.sleep();
+    desktop.suspend();
     desktop.wake();
     settle();
 
@@ -218,9 +231,9 @@ TEST_F(FollowDisplaysTest, WakingAtTheSameDisplaysDoesNothing) {
     EXPECT_EQ(log().size(), linesBefore);
 }
 
-TEST_F(FollowDisplaysTest, ADisplayPluggedInWhileTheMacSleptIsFollowedOnWaking) {
+TEST_P(FollowDisplaysTest, ADisplayPluggedInWhileTheMacSleptIsFollowedOnWaking) {
     saveAtTheDesk();
-    desktop.sleep();
+    desktop.suspend();
     desktop.plugDisplay(studio, studioSize);
     settle();
     EXPECT_EQ(offered(), std::nullopt);
@@ -231,21 +244,21 @@ TEST_F(FollowDisplaysTest, ADisplayPluggedInWhileTheMacSleptIsFollowedOnWaking) 
     EXPECT_EQ(offered(), "Desk");
 }
 
-TEST_F(FollowDisplaysTest, AWakeAloneIsEnoughWhenTheOtherNotificationsWereLost) {
+TEST_P(FollowDisplaysTest, AWakeAloneIsEnoughWhenTheOtherNotificationsWereLost) {
     saveAtTheDesk();
     desktop.displayWatch().dropsPosts = true;
     desktop.plugDisplay(studio, studioSize);
     settle();
     desktop.displayWatch().dropsPosts = false;
 
-    desktop.sleep();
+    desktop.suspend();
     desktop.wake();
     settle();
 
     EXPECT_EQ(offered(), "Desk");
 }
 
-TEST_F(FollowDisplaysTest, ARefusedWatchIsLoggedAsAnError) {
+TEST_P(FollowDisplaysTest, ARefusedWatchIsLoggedAsAnError) {
     follower().stop();
     desktop.displayWatch().refuses = true;
 
@@ -256,7 +269,7 @@ TEST_F(FollowDisplaysTest, ARefusedWatchIsLoggedAsAnError) {
               1u);
 }
 
-TEST_F(FollowDisplaysTest, AfterStoppingNoChangeIsFollowed) {
+TEST_P(FollowDisplaysTest, AfterStoppingNoChangeIsFollowed) {
     saveAtTheDesk();
     follower().stop();
 
@@ -264,5 +277,21 @@ TEST_F(FollowDisplaysTest, AfterStoppingNoChangeIsFollowed) {
 
     EXPECT_EQ(offered(), std::nullopt);
 }
+
+using Unplugged = SimDisplayBehavior::Unplugged;
+
+INSTANTIATE_TEST_SUITE_P(
+    EveryWayMacOSTreatsDisplays, FollowDisplaysTest,
+    ::testing::Values(SimDisplayBehavior{Unplugged::gathered, true, false},
+                      SimDisplayBehavior{Unplugged::gathered, false, false},
+                      SimDisplayBehavior{Unplugged::leftOffScreen, true, false},
+                      SimDisplayBehavior{Unplugged::leftOffScreen, false, false},
+                      SimDisplayBehavior{Unplugged::gathered, true, true},
+                      SimDisplayBehavior{Unplugged::leftOffScreen, false, true}),
+    [](const ::testing::TestParamInfo<SimDisplayBehavior>& info) {
+        const SimDisplayBehavior& b = info.param;
+        return std::string(b.unplugged == Unplugged::gathered ? "Gathered" : "LeftOffScreen") +
+               (b.toldInStages ? "InStages" : "AtOnce") + (b.replugRestores ? "MacOSPutsBack" : "");
+    });
 
 }  // namespace vistrel::testing

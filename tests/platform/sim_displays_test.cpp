@@ -48,6 +48,33 @@ TEST_F(SimDisplaysTest, TheWindowsOfAnUnpluggedDisplayMoveOntoThePrimaryOne) {
     EXPECT_EQ(desktop.window(onLaptop)->frame, (Rect{100, 100, 400, 300}));
 }
 
+TEST_F(SimDisplaysTest, AMacOSThatLeavesWindowsOffScreenKeepsTheirCoordinates) {
+    desktop.displayBehavior.unplugged = SimDisplayBehavior::Unplugged::leftOffScreen;
+    desktop.plugDisplay(studio, studioSize);
+    const SimWindowId onStudio =
+        window(desktop.addApplication({0, "com.apple.Notes", "Notes"}), {2000, 100, 800, 600});
+    desktop.unplugDisplay(studio);
+    EXPECT_EQ(desktop.window(onStudio)->frame, (Rect{2000, 100, 800, 600}));
+}
+
+TEST_F(SimDisplaysTest, AMacOSThatRemembersPutsTheWindowsBackWhenTheDisplayReturns) {
+    desktop.displayBehavior.replugRestores = true;
+    desktop.plugDisplay(studio, studioSize);
+    const SimWindowId onStudio =
+        window(desktop.addApplication({0, "com.apple.Notes", "Notes"}), {2000, 100, 800, 600});
+    desktop.unplugDisplay(studio);
+    ASSERT_NE(desktop.window(onStudio)->frame, (Rect{2000, 100, 800, 600}));
+    desktop.plugDisplay(studio, studioSize);
+    EXPECT_EQ(desktop.window(onStudio)->frame, (Rect{2000, 100, 800, 600}));
+}
+
+TEST_F(SimDisplaysTest, AChangeToldAtOnceComesInOneNotification) {
+    desktop.displayBehavior.toldInStages = false;
+    desktop.plugDisplay(studio, studioSize);
+    desktop.executor().advance(1);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(SimDisplaysTest, ClosingTheLidMakesTheOtherDisplayPrimaryAndOpeningItPutsThemBack) {
     desktop.plugDisplay(studio, studioSize);
     const Pid pid = desktop.addApplication({0, "com.apple.Notes", "Notes"});
@@ -71,14 +98,14 @@ TEST_F(SimDisplaysTest, ClosingTheLidMakesTheOtherDisplayPrimaryAndOpeningItPuts
 
 TEST_F(SimDisplaysTest, ClosingTheLidWithNoOtherDisplaySleepsAndOpeningItWakes) {
     desktop.closeLid();
-    EXPECT_TRUE(desktop.asleep());
+    EXPECT_TRUE(desktop.suspended());
     EXPECT_EQ(desktop.screens().size(), 1u);
     desktop.openLid();
-    EXPECT_FALSE(desktop.asleep());
+    EXPECT_FALSE(desktop.suspended());
 }
 
 TEST_F(SimDisplaysTest, NothingIsToldWhileTheMacSleepsAndAChangeMeanwhileIsToldOnWaking) {
-    desktop.sleep();
+    desktop.suspend();
     desktop.plugDisplay(studio, studioSize);
     desktop.executor().advance(1);
     EXPECT_EQ(told, 0);
@@ -88,7 +115,7 @@ TEST_F(SimDisplaysTest, NothingIsToldWhileTheMacSleepsAndAChangeMeanwhileIsToldO
 }
 
 TEST_F(SimDisplaysTest, AWakeIsToldEvenWhenNothingChanged) {
-    desktop.sleep();
+    desktop.suspend();
     desktop.wake();
     desktop.executor().advance(1);
     EXPECT_EQ(told, 1);
