@@ -65,7 +65,9 @@ struct SimApplication {
     // Virtual seconds every accessibility call on its elements takes.
     double accessibilityLatency = 0;
     bool enhancedUserInterface = false;
-    // Whether its windows answer "AXDocument" (document-based applications do; Finder does not).
+    // Whether its windows answer "AXDocument", "the URL for the file represented by the
+    // element" in Apple's NSAccessibility documentation: document-based applications do;
+    // Finder does not (nikitabobko/AeroSpace issue 247).
     bool exposesDocuments = true;
 };
 

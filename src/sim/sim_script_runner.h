@@ -10,10 +10,13 @@ namespace vistrel {
 class SimDesktop;
 
 // osascript on the simulated desktop. It knows one script, the one asking Finder for its
-// windows, and answers it from the desktop's Finder windows as osascript prints the list the
-// script builds: a line per window with a folder, its name, its bounds (left, top, right,
-// bottom) and the folder's POSIX path, separated by tabs. Finder answers only with the
-// user's consent, and can be made to hang.
+// windows (as insidegui/PlayAlways, FinderHelper.swift, asks Finder for the target of its
+// front window), and answers it from the desktop's Finder windows as osascript prints the
+// list the script builds: a line per window with a folder, its name, its bounds (left, top,
+// right, bottom) and the folder's POSIX path, separated by tabs. Finder answers only with the
+// user's consent (without it an Apple event fails with errAEEventNotPermitted, -1743, in
+// Apple's documentation of the Automation consent, and osascript ends in error), or never
+// answers at all.
 class SimScriptRunner : public ScriptRunner {
   public:
     explicit SimScriptRunner(SimDesktop& desktop) : desktop_(desktop) {}

@@ -116,8 +116,11 @@ bool SimWorkspace::launchApplication(const std::string& url, const OpenConfigura
     return wait <= timeout;
 }
 
-// The application shows the file in a new window titled with the file's name, as a
-// document-based application (or Finder, for a folder) does.
+// The application shows the file in a new window titled with the file's name, whose
+// "AXDocument" is the file's URL, as a document-based application (or Finder, for a folder)
+// does. The completion comes once the application runs, before the window is up, as
+// open(_:withApplicationAt:configuration:completionHandler:) completes with the running
+// application in Apple's documentation; the caller waits for the window itself.
 bool SimWorkspace::openDocument(const std::string& fileURL, const std::string& applicationURL,
                                 const OpenConfiguration& configuration, double timeout) {
     static_cast<void>(configuration);
