@@ -57,7 +57,6 @@ class DisplaysSession {
 
     void plug();
     void unplug();
-    bool openPanel();
     SimWindow* window(const std::string& title);
     void place(const std::string& title, Rect frame);
     void describe(const std::string& title);
@@ -119,21 +118,11 @@ void DisplaysSession::unplug() {
     rig_.desktop().executor().advance(settle);
 }
 
-bool DisplaysSession::openPanel() {
-    if (rig_.statusPanel() && rig_.statusPanel()->isVisible()) return true;
-    rig_.desktop().executor().advance(StatusMenuController::reopenGuard * 2);
-    menu_->clicked();
-    rig_.desktop().executor().runUntilIdle();
-    if (!rig_.statusPanel() || !rig_.statusPanel()->isVisible())
-        return rig_.fail("the panel did not open");
-    return true;
-}
-
 bool DisplaysSession::atTheDesk() {
     plug();
     place("Start Page", safariAtTheDesk);
     place("Notes", notesAtTheDesk);
-    if (!openPanel() || !rig_.clickPanelRow("Save Current Layout")) return false;
+    if (!rig_.openStatusPanel() || !rig_.clickPanelRow("Save Current Layout")) return false;
     const auto saved = LayoutStore::load(*Shared::store());
     if (saved.empty()) return rig_.fail("nothing was saved");
     rig_.out() << "  saved \"" << saved.back().name << "\" on " << saved.back().displays.size()
@@ -158,7 +147,7 @@ bool DisplaysSession::onTheLaptop() {
 bool DisplaysSession::pluggedInAgain() {
     plug();
     if (!DisplayFollower::shared().offer()) return rig_.fail("nothing was offered");
-    return openPanel();
+    return rig_.openStatusPanel();
 }
 
 bool DisplaysSession::restored() {

@@ -81,15 +81,7 @@ int HealthSession::play() {
 }
 
 bool HealthSession::openPanel() {
-    if (rig_.statusPanel() && rig_.statusPanel()->isVisible()) return true;
-    // A click right after the panel closed would leave it closed.
-    rig_.desktop().executor().advance(StatusMenuController::reopenGuard * 2);
-    const auto& items = rig_.desktop().statusBar().items();
-    if (items.empty()) return rig_.fail("no status item to click");
-    items.front()->click();
-    rig_.desktop().executor().runUntilIdle();
-    if (!rig_.statusPanel() || !rig_.statusPanel()->isVisible())
-        return rig_.fail("the panel did not open");
+    if (!rig_.openStatusPanel()) return false;
     for (const AccessibilityNode& node : rig_.statusPanel()->accessibilityNodes()) {
         if (node.role == "AXStaticText" && !node.help.empty()) {
             rig_.out() << "  readiness: \"" << node.label << "\"\n";

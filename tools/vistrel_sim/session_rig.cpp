@@ -8,6 +8,7 @@
 #include "sim/sim_screen_renderer.h"
 #include "sim_pictures.h"
 #include "tracking/mission_control_detector.h"
+#include "ui/menu/status_menu_controller.h"
 
 namespace vistrel {
 
@@ -193,6 +194,18 @@ bool SessionRig::fail(std::string_view why) {
 SimKeyPanel* SessionRig::statusPanel() {
     const auto& panels = desktop_.panels().panels();
     return panels.empty() ? nullptr : panels.front();
+}
+
+bool SessionRig::openStatusPanel() {
+    if (statusPanel() && statusPanel()->isVisible()) return true;
+    // A click right after the panel closed would leave it closed.
+    desktop_.executor().advance(StatusMenuController::reopenGuard * 2);
+    const auto& items = desktop_.statusBar().items();
+    if (items.empty()) return fail("no status item to click");
+    items.front()->click();
+    desktop_.executor().runUntilIdle();
+    if (!statusPanel() || !statusPanel()->isVisible()) return fail("the panel did not open");
+    return true;
 }
 
 bool SessionRig::clickPanelRow(const std::string& label) {

@@ -120,6 +120,9 @@ class SessionRig {
 
     // The status item's panel, once a click made one; nothing before.
     SimKeyPanel* statusPanel();
+    // Clicks the status item unless its panel is open already; false (saying why) when no
+    // panel opened.
+    bool openStatusPanel();
     // Clicks the row of the open status panel with this label and runs what it starts; false
     // (saying why) when the panel is closed or has no such row.
     bool clickPanelRow(const std::string& label);
