@@ -2,8 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
-#include "platform/key_panel.h"
 #include "mac/display_list_view.h"
+#include "platform/key_panel.h"
 
 // A key panel's content: the display list, the mouse (in the list's flipped space) and the
 // accessibility elements of the drawn views.

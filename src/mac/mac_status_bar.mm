@@ -3,9 +3,9 @@
 
 #import <AppKit/AppKit.h>
 
-#include "platform/display_list.h"
 #include "mac/display_list_view.h"
 #include "mac/mac_block_target.h"
+#include "platform/display_list.h"
 
 namespace vistrel {
 

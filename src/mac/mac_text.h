@@ -2,8 +2,8 @@
 
 #import <CoreText/CoreText.h>
 
-#include "platform/canvas.h"
 #include "mac/cf_owned.h"
+#include "platform/canvas.h"
 #include "platform/text_measurer.h"
 
 namespace vistrel {

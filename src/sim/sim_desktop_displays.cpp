@@ -24,7 +24,8 @@ void SimDesktop::plugDisplay(std::uint32_t displayID, Size size) {
     addScreenToTheRight(size, displayID);
     if (displayBehavior.replugRestores) {
         for (const auto& [id, frame] : unpluggedFrames_[displayID]) {
-            if (SimWindow* found = window(id); found != nullptr && !found->closed) found->frame = frame;
+            if (SimWindow* found = window(id); found != nullptr && !found->closed)
+                found->frame = frame;
         }
     }
     unpluggedFrames_.erase(displayID);
