@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "platform/sim/sim_event_tap_port.h"
+#include "platform/sim/sim_scene.h"
 #include "session/engine.h"
 #include "settings/preference_key.h"
 #include "settings/settings_launcher.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
-#include "sim/sim_event_tap_port.h"
-#include "sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "ui/menu/status_menu_controller.h"
 

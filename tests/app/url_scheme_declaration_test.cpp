@@ -11,7 +11,7 @@ namespace vistrel {
 namespace {
 
 std::string agentInfoPlist() {
-    std::ifstream file(std::string(VISTREL_SOURCE_DIR) + "/src/mac/Info.plist.in");
+    std::ifstream file(std::string(VISTREL_SOURCE_DIR) + "/src/platform/mac/Info.plist.in");
     std::stringstream text;
     text << file.rdbuf();
     return text.str();

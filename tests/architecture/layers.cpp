@@ -53,7 +53,7 @@ std::string readAll(const fs::path& path) {
 }  // namespace
 
 Layers Layers::fromDrawing(const std::string& markdown) {
-    static const std::regex floorLine(R"(^\s*│ ([a-z_]+)/)");
+    static const std::regex floorLine(R"(^\s*│ ([a-z_]+(?:/[a-z_]+)*)/)");
     Layers layers;
     std::istringstream lines(markdown);
     for (std::string line; std::getline(lines, line);) {
@@ -65,10 +65,13 @@ Layers Layers::fromDrawing(const std::string& markdown) {
 }
 
 std::optional<std::size_t> Layers::floorOf(const std::string& path) const {
+    // The deepest folder wins: "platform/mac/x.h" stands on platform/mac, not on platform.
+    std::optional<std::size_t> found;
     for (std::size_t i = 0; i < floors_.size(); ++i) {
-        if (path.starts_with(floors_[i] + "/")) return i;
+        if (!path.starts_with(floors_[i] + "/")) continue;
+        if (!found || floors_[i].size() > floors_[*found].size()) found = i;
     }
-    return std::nullopt;
+    return found;
 }
 
 std::vector<IncludeViolation> includeViolations(const Layers& layers, const std::string& file,
@@ -113,6 +116,16 @@ std::vector<std::string> foldersWithoutFloor(const Layers& layers, const fs::pat
         if (!entry.is_directory()) continue;
         const std::string name = entry.path().filename().string();
         if (!layers.floorOf(name + "/")) missing.push_back(name);
+    }
+    // The ground holds interfaces only: every folder inside it is an implementation and must
+    // stand on a floor of its own, above the interfaces.
+    const fs::path ground = sourceRoot / "platform";
+    if (!fs::is_directory(ground)) return missing;
+    for (const auto& entry : fs::directory_iterator(ground)) {
+        if (!entry.is_directory()) continue;
+        const std::string name = "platform/" + entry.path().filename().string();
+        const auto& floors = layers.floors();
+        if (std::find(floors.begin(), floors.end(), name) == floors.end()) missing.push_back(name);
     }
     return missing;
 }

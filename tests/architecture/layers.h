@@ -43,7 +43,8 @@ std::vector<IncludeViolation> includeViolations(const Layers& layers, const std:
 std::vector<IncludeViolation> scanIncludes(const Layers& layers,
                                            const std::filesystem::path& sourceRoot);
 
-// The folders directly under `sourceRoot` that no floor holds.
+// The folders directly under `sourceRoot` that no floor holds, and the folders inside
+// `sourceRoot/platform` that are not floors of their own.
 std::vector<std::string> foldersWithoutFloor(const Layers& layers,
                                              const std::filesystem::path& sourceRoot);
 

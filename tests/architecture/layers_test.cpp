@@ -102,5 +102,28 @@ TEST(Layers, FlagsAppleFrameworkHeadersOutsideTheMacFolders) {
     EXPECT_TRUE(includeViolations(layers, "app/mac/main.mm", text).empty());
 }
 
+const std::string drawingWithImplementations =
+    "│ app/          │ the top\n"
+    "│ platform/mac/ │ an implementation\n"
+    "│ platform/     │ the ground\n";
+
+TEST(Layers, AnImplementationInsideThePlatformFolderStandsOnItsOwnFloor) {
+    const Layers layers = Layers::fromDrawing(drawingWithImplementations);
+    ASSERT_EQ(layers.floors(), (std::vector<std::string>{"platform", "platform/mac", "app"}));
+    EXPECT_EQ(layers.floorOf("platform/mac/mac_window_host.h"), 1u);
+    EXPECT_EQ(layers.floorOf("platform/window_host.h"), 0u);
+}
+
+TEST(Layers, TheInterfacesNeverIncludeAnImplementation) {
+    const Layers layers = Layers::fromDrawing(drawingWithImplementations);
+    EXPECT_EQ(includeViolations(layers, "platform/platform.cpp",
+                                "#include \"platform/mac/mac_platform.h\"\n")
+                  .size(),
+              1u);
+    EXPECT_TRUE(includeViolations(layers, "platform/mac/mac_platform.h",
+                                  "#include \"platform/window_host.h\"\n")
+                    .empty());
+}
+
 }  // namespace
 }  // namespace vistrel::testing

@@ -12,7 +12,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "sim/sim_capture_scene.h"
+#include "platform/sim/sim_capture_scene.h"
 #include "support/sim_test.h"
 #include "tracking/ax.h"
 #include "tracking/mission_control_detector.h"

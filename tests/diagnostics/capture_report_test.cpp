@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "diagnostics/report_problem.h"
+#include "platform/sim/sim_scene.h"
 #include "report_test.h"
-#include "sim/sim_scene.h"
 #include "tracking/health.h"
 #include "tracking/mission_control_capture.h"
 #include "zip_entries.h"

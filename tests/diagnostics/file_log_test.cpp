@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/temp_dir.h"
 
 namespace vistrel {

@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "base/file_log.h"
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/temp_dir.h"
 
 namespace vistrel {

@@ -5,8 +5,8 @@
 #include "base/file_log.h"
 #include "base/log.h"
 #include "diagnostics/report_problem.h"
+#include "platform/sim/sim_report_service.h"
 #include "report_test.h"
-#include "sim/sim_report_service.h"
 
 namespace vistrel {
 namespace {

@@ -1,6 +1,6 @@
 #include "zip_entries.h"
 
-#include "sim/sim_zip_reader.h"
+#include "platform/sim/sim_zip_reader.h"
 
 namespace vistrel::testing {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/defaults_value.h"
+#include "platform/sim/sim_desktop.h"
 #include "settings/command_channel.h"
-#include "sim/sim_desktop.h"
 
 namespace vistrel::fuzz {
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_dock.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_dock.h"
 #include "tracking/thumbnail_match.h"
 #include "tracking/thumbnail_reader.h"
 #include "tracking/thumbnail_targets.h"

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "layouts/layout_actions.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
 #include "support/sim_test.h"
 
 namespace vistrel::testing {

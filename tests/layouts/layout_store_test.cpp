@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/sim/sim_desktop.h"
 #include "settings/preference_key.h"
-#include "sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

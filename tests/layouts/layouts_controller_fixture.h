@@ -4,10 +4,10 @@
 #include <string>
 
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_scene.h"
 #include "session/layouts_controller.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "support/sim_test.h"
 
 namespace vistrel::testing {

@@ -15,7 +15,7 @@ mode=$4
 declarations="$source_dir/tests/mac_declarations"
 # The macOS layer: the platform's implementation, the agent's entry point and the Settings
 # app's AppKit renderer.
-layers=("$source_dir/src/mac" "$source_dir/src/app/mac" "$source_dir/src/settings_app/mac")
+layers=("$source_dir/src/platform/mac" "$source_dir/src/app/mac" "$source_dir/src/settings_app/mac")
 
 case "$arch" in
     arm64) bool_is_bool=1 ;;

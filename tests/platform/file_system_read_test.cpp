@@ -3,7 +3,7 @@
 #include <fstream>
 #include <string>
 
-#include "sim/sim_file_system.h"
+#include "platform/sim/sim_file_system.h"
 #include "support/temp_dir.h"
 
 namespace vistrel {

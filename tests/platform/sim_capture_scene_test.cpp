@@ -1,4 +1,4 @@
-#include "sim/sim_capture_scene.h"
+#include "platform/sim/sim_capture_scene.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sim/sim_dock.h"
+#include "platform/sim/sim_dock.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include <string>
 
 #include "base/hotkey.h"
-#include "sim/sim_scene.h"
-#include "sim/sim_thumbnail_layout.h"
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_thumbnail_layout.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

@@ -1,4 +1,4 @@
-#include "sim/sim_event_tap_port.h"
+#include "platform/sim/sim_event_tap_port.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sim/sim_executor.h"
+#include "platform/sim/sim_executor.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <memory>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

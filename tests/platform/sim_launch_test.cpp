@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "support/installed_editor.h"
 #include "support/sim_test.h"
 

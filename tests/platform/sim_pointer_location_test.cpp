@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

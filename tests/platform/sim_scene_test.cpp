@@ -1,4 +1,4 @@
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_scene.h"
 
 #include <gtest/gtest.h>
 

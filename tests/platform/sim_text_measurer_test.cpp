@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

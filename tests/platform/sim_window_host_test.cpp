@@ -1,4 +1,4 @@
-#include "sim/sim_window_host.h"
+#include "platform/sim/sim_window_host.h"
 
 #include <gtest/gtest.h>
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "base/hotkey.h"
-#include "sim/sim_dock.h"
-#include "sim/sim_presentation.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_presentation.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "tracking/ax.h"
 #include "tracking/thumbnail_reader.h"

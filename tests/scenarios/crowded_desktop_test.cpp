@@ -3,8 +3,8 @@
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
 #include "layouts_scenario.h"
+#include "platform/sim/sim_crowded_scene.h"
 #include "settings/shared.h"
-#include "sim/sim_crowded_scene.h"
 #include "windows/screens.h"
 
 namespace vistrel::testing {

@@ -6,7 +6,7 @@
 #include "base/hotkey.h"
 #include "engine_scenario.h"
 #include "fake_engine_layouts.h"
-#include "sim/sim_event_tap_port.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel::testing {

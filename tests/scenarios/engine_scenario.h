@@ -6,10 +6,10 @@
 #include <optional>
 #include <string>
 
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_scene.h"
 #include "session/engine.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_dock.h"
-#include "sim/sim_scene.h"
 
 namespace vistrel::testing {
 

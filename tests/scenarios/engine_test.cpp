@@ -2,8 +2,8 @@
 
 #include "base/hotkey.h"
 #include "engine_scenario.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "settings/shared.h"
-#include "sim/sim_event_tap_port.h"
 #include "tracking/mission_control_detector.h"
 #include "windows/window_actions.h"
 

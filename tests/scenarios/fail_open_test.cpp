@@ -9,8 +9,8 @@
 
 #include "base/hotkey.h"
 #include "layouts_scenario.h"
-#include "sim/sim_event_tap_port.h"
-#include "sim/sim_presentation.h"
+#include "platform/sim/sim_event_tap_port.h"
+#include "platform/sim/sim_presentation.h"
 
 namespace vistrel::testing {
 namespace {

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "engine_scenario.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_event_tap_port.h"
 #include "tracking/health.h"
 #include "tracking/mission_control_detector.h"
 

@@ -3,8 +3,8 @@
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
 #include "layouts_scenario.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "settings/shared.h"
-#include "sim/sim_event_tap_port.h"
 
 namespace vistrel::testing {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "layouts_scenario.h"
-#include "sim/sim_event_tap_port.h"
+#include "platform/sim/sim_event_tap_port.h"
 
 namespace vistrel::testing {
 namespace {

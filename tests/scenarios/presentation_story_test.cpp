@@ -12,8 +12,8 @@
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
 #include "layouts_scenario.h"
+#include "platform/sim/sim_presentation.h"
 #include "settings/shared.h"
-#include "sim/sim_presentation.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel::testing {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/sim/sim_desktop.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

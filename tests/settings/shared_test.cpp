@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/sim/sim_desktop.h"
 #include "settings/settings.h"
-#include "sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

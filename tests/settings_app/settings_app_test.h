@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/sim/sim_defaults.h"
 #include "settings/shared.h"
 #include "settings_app/settings_model.h"
-#include "sim/sim_defaults.h"
 #include "support/sim_test.h"
 
 namespace vistrel::testing {

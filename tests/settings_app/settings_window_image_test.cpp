@@ -3,12 +3,12 @@
 #include <string>
 
 #include "layouts/layout_store.h"
+#include "platform/sim/cairo_canvas.h"
+#include "platform/sim/cairo_fonts.h"
 #include "reference_image.h"
 #include "settings/preference_key.h"
 #include "settings_app/settings_window_painter.h"
 #include "settings_app_test.h"
-#include "sim/cairo_canvas.h"
-#include "sim/cairo_fonts.h"
 
 namespace vistrel {
 namespace {

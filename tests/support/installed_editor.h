@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 
 namespace vistrel::testing {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/hotkey.h"
-#include "sim/sim_event_tap_port.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <optional>
 
-#include "sim/sim_capture_scene.h"
-#include "sim/sim_presentation.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_capture_scene.h"
+#include "platform/sim/sim_presentation.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "support/temp_dir.h"
 #include "tracking/ax.h"

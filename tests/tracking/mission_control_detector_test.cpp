@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
+#include "platform/sim/sim_scene.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

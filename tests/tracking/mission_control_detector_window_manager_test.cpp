@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "tracking/mission_control_detector.h"
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "tracking/ax.h"
 #include "tracking/window_by_number.h"

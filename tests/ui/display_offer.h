@@ -5,8 +5,8 @@
 #include "layouts/display_follower.h"
 #include "layouts/display_match.h"
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_desktop.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
 #include "windows/screens.h"
 
 namespace vistrel::testing {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "display_offer.h"
+#include "platform/sim/sim_scene.h"
 #include "settings/preference_key.h"
-#include "sim/sim_scene.h"
 #include "status_menu_fixture.h"
 #include "ui/kit/dfkit_menu_row.h"
 

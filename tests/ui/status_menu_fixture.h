@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/sim_test.h"
 #include "ui/kit/dfkit_view.h"
 #include "ui/menu/status_menu_controller.h"

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_scene.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "status_menu_fixture.h"
 
 namespace vistrel::testing {

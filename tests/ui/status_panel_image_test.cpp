@@ -4,10 +4,10 @@
 
 #include "display_offer.h"
 #include "layouts/layout_store.h"
+#include "platform/sim/cairo_canvas.h"
 #include "reference_image.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/cairo_canvas.h"
 #include "status_menu_fixture.h"
 #include "tracking/health.h"
 #include "ui/kit/dfkit_glyph.h"

@@ -6,9 +6,9 @@
 
 #include "layouts/layout_store.h"
 #include "layouts/layout_undo.h"
+#include "platform/sim/sim_scene.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "status_menu_fixture.h"
 
 namespace vistrel::testing {

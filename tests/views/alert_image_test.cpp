@@ -3,8 +3,8 @@
 #include <cairo.h>
 
 #include "diagnostics/report_problem.h"
+#include "platform/sim/cairo_alert_painter.h"
 #include "reference_image.h"
-#include "sim/cairo_alert_painter.h"
 #include "support/sim_test.h"
 
 namespace vistrel {

@@ -1,10 +1,10 @@
-#include "sim/cairo_canvas.h"
+#include "platform/sim/cairo_canvas.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "platform/display_list.h"
+#include "platform/sim/cairo_canvas.h"
 #include "reference_image.h"
-#include "sim/cairo_canvas.h"
 #include "support/sim_test.h"
 #include "views/badge_view.h"
 #include "views/hud_view.h"

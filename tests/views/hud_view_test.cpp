@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "platform/display_list.h"
-#include "sim/sim_window_host.h"
+#include "platform/sim/sim_window_host.h"
 #include "support/sim_test.h"
 #include "views/layouts_ui.h"
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/display_list.h"
+#include "platform/sim/sim_desktop.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

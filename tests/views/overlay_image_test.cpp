@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/display_list.h"
+#include "platform/sim/cairo_canvas.h"
 #include "reference_image.h"
-#include "sim/cairo_canvas.h"
 #include "views/overlay_view.h"
 
 namespace vistrel {

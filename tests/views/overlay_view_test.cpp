@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/display_list.h"
-#include "sim/sim_window_host.h"
+#include "platform/sim/sim_window_host.h"
 
 namespace vistrel {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "sim/cairo_surface.h"
+#include "platform/sim/cairo_surface.h"
 
 namespace vistrel {
 

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "platform/display_list.h"
-#include "sim/cairo_glass.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_screen_renderer.h"
+#include "platform/sim/cairo_glass.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_screen_renderer.h"
 
 namespace vistrel {
 namespace {

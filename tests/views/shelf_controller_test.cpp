@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/display_list.h"
-#include "sim/sim_window_host.h"
+#include "platform/sim/sim_window_host.h"
 #include "support/sim_test.h"
 #include "views/shelf_cell_painter.h"
 #include "views/shelf_style.h"

@@ -7,10 +7,10 @@
 #include "layouts/layout_template.h"
 #include "layouts/shelf_layout.h"
 #include "layouts/shelf_state.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_screen_renderer.h"
 #include "reference_image.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
-#include "sim/sim_screen_renderer.h"
 #include "views/shelf_controller.h"
 #include "windows/screens.h"
 

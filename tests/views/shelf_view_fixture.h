@@ -9,8 +9,8 @@
 
 #include "platform/display_list.h"
 #include "platform/platform.h"
-#include "sim/sim_scene.h"
-#include "sim/sim_window_host.h"
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_window_host.h"
 #include "support/sim_test.h"
 #include "views/app_look.h"
 #include "views/layouts_ui.h"

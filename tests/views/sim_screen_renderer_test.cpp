@@ -1,9 +1,9 @@
-#include "sim/sim_screen_renderer.h"
+#include "platform/sim/sim_screen_renderer.h"
 
 #include <gtest/gtest.h>
 
 #include "platform/display_list.h"
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 
 namespace vistrel {
 namespace {

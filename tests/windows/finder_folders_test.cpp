@@ -3,7 +3,7 @@
 // with the user's consent and in time.
 #include <gtest/gtest.h>
 
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_scene.h"
 #include "support/sim_test.h"
 #include "windows/finder_folders.h"
 #include "windows/window_mover.h"

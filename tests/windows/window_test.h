@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_desktop.h"
 #include "support/sim_test.h"
 
 namespace vistrel::testing {

@@ -9,12 +9,12 @@
 #include <string>
 
 #include "allocation_counter.h"
+#include "platform/sim/sim_crowded_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_dock.h"
+#include "platform/sim/sim_presentation.h"
+#include "platform/sim/sim_scene.h"
 #include "session/engine.h"
-#include "sim/sim_crowded_scene.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_dock.h"
-#include "sim/sim_presentation.h"
-#include "sim/sim_scene.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel {

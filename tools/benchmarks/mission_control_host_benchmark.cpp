@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "tracking/mission_control_detector.h"
 #include "tracking/thumbnail_reader.h"
 

@@ -5,9 +5,9 @@
 
 #include "layouts/layout_store.h"
 #include "platform/display_list.h"
+#include "platform/sim/sim_desktop.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
 #include "ui/kit/dfkit_panel_view.h"
 #include "ui/menu/status_menu_controller.h"
 

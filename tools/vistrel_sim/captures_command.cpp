@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "sim/sim_capture_scene.h"
-#include "sim/sim_desktop.h"
+#include "platform/sim/sim_capture_scene.h"
+#include "platform/sim/sim_desktop.h"
 #include "sim_command.h"
 #include "thumbnail_printout.h"
 #include "tracking/mission_control_detector.h"

@@ -7,10 +7,10 @@
 
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_scene.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "sim_command.h"
 #include "ui/kit/dfkit_scroll_view.h"
 #include "ui/menu/status_menu_controller.h"

@@ -4,8 +4,8 @@
 
 #include "app/capture_report.h"
 #include "base/hotkey.h"
+#include "platform/sim/sim_event_tap_port.h"
 #include "session_rig.h"
-#include "sim/sim_event_tap_port.h"
 #include "sim_command.h"
 #include "tracking/health.h"
 #include "tracking/mission_control_detector.h"

@@ -4,11 +4,11 @@
 
 #include "base/hotkey.h"
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_scene.h"
 #include "session/layouts_controller.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "sim_command.h"
 
 namespace vistrel {

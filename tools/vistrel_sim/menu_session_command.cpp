@@ -4,11 +4,11 @@
 #include <string_view>
 
 #include "layouts/layout_store.h"
+#include "platform/sim/sim_scene.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "sim_command.h"
 #include "ui/menu/status_menu_controller.h"
 

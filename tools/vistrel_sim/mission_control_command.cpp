@@ -1,8 +1,8 @@
 #include <ostream>
 #include <string>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "sim_command.h"
 #include "thumbnail_printout.h"
 #include "tracking/mission_control_detector.h"

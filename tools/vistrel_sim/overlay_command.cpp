@@ -1,13 +1,13 @@
 #include <ostream>
 #include <string>
 
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_screen_renderer.h"
 #include "session/engine.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"
 #include "settings/shared.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
-#include "sim/sim_screen_renderer.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
 #include "tracking/overlay_layout.h"

@@ -8,9 +8,9 @@
 
 #include "diagnostics/report_problem.h"
 #include "diagnostics/report_service.h"
+#include "platform/sim/sim_report_service.h"
+#include "platform/sim/sim_zip_reader.h"
 #include "session_rig.h"
-#include "sim/sim_report_service.h"
-#include "sim/sim_zip_reader.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
 

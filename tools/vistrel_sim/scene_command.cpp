@@ -1,7 +1,7 @@
 #include <ostream>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "sim_command.h"
 
 namespace vistrel {

@@ -3,10 +3,10 @@
 #include <string_view>
 
 #include "base/hotkey.h"
+#include "platform/sim/sim_scene.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
-#include "sim/sim_scene.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
 

@@ -4,8 +4,8 @@
 #include <iomanip>
 #include <sstream>
 
-#include "sim/sim_scene.h"
-#include "sim/sim_screen_renderer.h"
+#include "platform/sim/sim_scene.h"
+#include "platform/sim/sim_screen_renderer.h"
 #include "sim_pictures.h"
 #include "tracking/mission_control_detector.h"
 #include "ui/menu/status_menu_controller.h"

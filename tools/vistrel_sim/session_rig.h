@@ -11,8 +11,8 @@
 
 #include "app/app_delegate.h"
 #include "platform/platform.h"
+#include "platform/sim/sim_desktop.h"
 #include "session/engine.h"
-#include "sim/sim_desktop.h"
 #include "sim_command.h"
 
 namespace vistrel {

@@ -11,15 +11,15 @@
 #include <string_view>
 
 #include "layouts/layout_store.h"
+#include "platform/sim/cairo_canvas.h"
+#include "platform/sim/cairo_fonts.h"
+#include "platform/sim/sim_desktop.h"
 #include "settings/command_channel.h"
 #include "settings/preference_key.h"
 #include "settings/settings.h"
 #include "settings/shared.h"
 #include "settings_app/settings_model.h"
 #include "settings_app/settings_window_painter.h"
-#include "sim/cairo_canvas.h"
-#include "sim/cairo_fonts.h"
-#include "sim/sim_desktop.h"
 #include "sim_command.h"
 
 namespace vistrel {

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "sim/cairo_fonts.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/cairo_fonts.h"
+#include "platform/sim/sim_scene.h"
 
 namespace vistrel {
 

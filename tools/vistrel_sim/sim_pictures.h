@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "platform/modal_alert.h"
-#include "sim/cairo_alert_painter.h"
-#include "sim/sim_desktop.h"
-#include "sim/sim_screen_renderer.h"
+#include "platform/sim/cairo_alert_painter.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_screen_renderer.h"
 
 namespace vistrel {
 

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "app/app_delegate.h"
+#include "platform/sim/sim_scene.h"
 #include "session_rig.h"
 #include "settings/preference_key.h"
 #include "settings/settings_launcher.h"
 #include "settings/shared.h"
 #include "settings/updates.h"
 #include "settings_app/settings_model.h"
-#include "sim/sim_scene.h"
 #include "sim_command.h"
 #include "sim_pictures.h"
 #include "tracking/mission_control_detector.h"

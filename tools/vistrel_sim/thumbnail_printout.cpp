@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "sim/sim_desktop.h"
-#include "sim/sim_scene.h"
+#include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
 #include "tracking/ax.h"
 #include "tracking/mission_control_host.h"
 #include "tracking/thumbnail_reader.h"

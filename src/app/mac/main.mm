@@ -10,8 +10,8 @@
 #include "app/agent_main.h"
 #include "app/app_delegate.h"
 #include "app/layout_command_line.h"
-#include "mac/mac_platform.h"
-#include "mac/mac_strings.h"
+#include "platform/mac/mac_platform.h"
+#include "platform/mac/mac_strings.h"
 #include "tracking/mission_control_capture.h"
 
 // Hands AppKit's two questions to the agent's delegate, where every decision is made.

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
-#include "mac/mac_block_target.h"
-#include "mac/mac_strings.h"
+#include "platform/mac/mac_block_target.h"
+#include "platform/mac/mac_strings.h"
 #include "platform/platform.h"
 #include "settings_app/mac/settings_layout_windows.h"
 

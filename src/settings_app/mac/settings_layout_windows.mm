@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include "mac/mac_block_target.h"
-#include "mac/mac_strings.h"
+#include "platform/mac/mac_block_target.h"
+#include "platform/mac/mac_strings.h"
 #include "settings_app/layout_windows_painter.h"
 
 namespace {

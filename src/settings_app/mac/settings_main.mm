@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "mac/mac_platform.h"
+#include "platform/mac/mac_platform.h"
 #include "settings/shared.h"
 #include "settings_app/launch_options.h"
 #include "settings_app/mac/settings_main_menu.h"

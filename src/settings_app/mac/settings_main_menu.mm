@@ -1,6 +1,6 @@
 #include "settings_app/mac/settings_main_menu.h"
 
-#include "mac/mac_block_target.h"
+#include "platform/mac/mac_block_target.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <functional>
 #include <vector>
 
-#include "mac/display_list_view.h"
-#include "mac/mac_appearance_name.h"
-#include "mac/mac_block_target.h"
-#include "mac/mac_strings.h"
+#include "platform/mac/display_list_view.h"
+#include "platform/mac/mac_appearance_name.h"
+#include "platform/mac/mac_block_target.h"
+#include "platform/mac/mac_strings.h"
 #include "settings_app/mac/settings_group_view.h"
 #include "settings_app/mac/settings_layout_list.h"
 #include "settings_app/mac/settings_widgets.h"

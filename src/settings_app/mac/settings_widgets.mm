@@ -1,6 +1,6 @@
 #include "settings_app/mac/settings_widgets.h"
 
-#include "mac/mac_strings.h"
+#include "platform/mac/mac_strings.h"
 
 namespace vistrel::SettingsWidgets {
 

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "mac/mac_block_target.h"
-#include "mac/mac_strings.h"
+#include "platform/mac/mac_block_target.h"
+#include "platform/mac/mac_strings.h"
 #include "settings_app/mac/settings_page_view.h"
 #include "settings_app/mac/settings_sidebar.h"
 
