@@ -1,5 +1,6 @@
 #include "tracking/thumbnail_targets.h"
 
+#include "platform/platform.h"
 #include "tracking/window_by_number.h"
 
 namespace vistrel {
@@ -7,6 +8,14 @@ namespace vistrel {
 namespace {
 
 constexpr std::string_view titleAttribute = "AXTitle";
+
+// Windows of regular applications only, as the ties take them: from macOS 27 the Dock no
+// longer hosts Mission Control, yet its full-screen window stays over it and a hit-test may
+// answer with it.
+bool isRegular(Pid pid) {
+    const auto application = platform().workspace.application(pid);
+    return application && application->activationPolicy == ActivationPolicy::regular;
+}
 
 }  // namespace
 
@@ -103,7 +112,7 @@ std::optional<AX::WindowHit> ThumbnailTargets::at(Point point, std::uint64_t gen
 std::optional<AX::WindowHit> ThumbnailTargets::hovered(Point point, std::uint64_t generation,
                                                        Pid ownPid, Pid hostPid) const {
     auto hit = AX::hitWindow(point);
-    if (hit && hit->pid != ownPid && hit->pid != hostPid) return hit;
+    if (hit && hit->pid != ownPid && hit->pid != hostPid && isRegular(hit->pid)) return hit;
     return at(point, generation);
 }
 

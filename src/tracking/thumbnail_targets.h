@@ -31,8 +31,9 @@ class ThumbnailTargets {
     std::optional<AX::WindowHit> at(Point point, std::uint64_t generation) const;
 
     // The window under the pointer as the agent acts on it: the hit-test's window where it
-    // answers with one of another process than the agent and Mission Control's host (up to
-    // macOS 26 on some systems), else the window tied to the thumbnail under the point.
+    // answers with one of a regular application other than the agent and Mission Control's
+    // host (up to macOS 26 on some systems), else the window tied to the thumbnail under the
+    // point. The Dock's own windows are never an answer, whichever process hosts the tree.
     std::optional<AX::WindowHit> hovered(Point point, std::uint64_t generation, Pid ownPid,
                                          Pid hostPid) const;
 

@@ -7,6 +7,7 @@
 #include "engine_scenario.h"
 #include "fake_engine_layouts.h"
 #include "platform/sim/sim_event_tap_port.h"
+#include "support/presented.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel::testing {
@@ -19,8 +20,9 @@ constexpr double firstTickSeconds = 0.05;
 constexpr Point overNoThumbnail{720, 20};
 
 // The engine's own rules, with a Layouts feature that never takes the pointer unless the
-// test says so, so that each rule can be watched on its own.
-class EngineRulesTest : public EngineScenario {
+// test says so, so that each rule can be watched on its own, on each way a Mac presents
+// Mission Control.
+class EngineRulesTest : public Presented<EngineScenario> {
   protected:
     EngineRulesTest() : EngineRulesTest(new FakeEngineLayouts) {}
 
@@ -35,10 +37,10 @@ class EngineRulesTest : public EngineScenario {
 
   private:
     explicit EngineRulesTest(FakeEngineLayouts* fake)
-        : EngineScenario(std::unique_ptr<EngineLayouts>(fake)), layouts(*fake) {}
+        : Presented(std::unique_ptr<EngineLayouts>(fake)), layouts(*fake) {}
 };
 
-TEST_F(EngineRulesTest, TheFirstTickComesFiftyMillisecondsAfterStart) {
+TEST_P(EngineRulesTest, TheFirstTickComesFiftyMillisecondsAfterStart) {
     engine = Engine::make(std::make_unique<FakeEngineLayouts>());
     desktop.dock().open();
     engine->start();
@@ -48,7 +50,7 @@ TEST_F(EngineRulesTest, TheFirstTickComesFiftyMillisecondsAfterStart) {
     EXPECT_TRUE(engine->active());
 }
 
-TEST_F(EngineRulesTest, ThumbnailsAreReadOnEveryTickForSixteenTicksThenOnEveryFourth) {
+TEST_P(EngineRulesTest, ThumbnailsAreReadOnEveryTickForSixteenTicksThenOnEveryFourth) {
     const std::size_t before = desktop.accessibility().attributeReads("AXFrame");
     openMissionControl();
     ASSERT_GT(desktop.accessibility().attributeReads("AXFrame"), before)
@@ -61,7 +63,7 @@ TEST_F(EngineRulesTest, ThumbnailsAreReadOnEveryTickForSixteenTicksThenOnEveryFo
               (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 20, 24}));
 }
 
-TEST_F(EngineRulesTest, WindowsMovedStartsTheCountOfTicksAgain) {
+TEST_P(EngineRulesTest, WindowsMovedStartsTheCountOfTicksAgain) {
     openMissionControl();
     for (int tick = 1; tick <= 17; ++tick)
         this->tick();
@@ -76,7 +78,7 @@ TEST_F(EngineRulesTest, WindowsMovedStartsTheCountOfTicksAgain) {
     EXPECT_TRUE(tickReads());
 }
 
-TEST_F(EngineRulesTest, SafeZoneKeepsTheStripOutsideTheThumbnailAndOutsideEveryButton) {
+TEST_P(EngineRulesTest, SafeZoneKeepsTheStripOutsideTheThumbnailAndOutsideEveryButton) {
     openMissionControl();
     const Rect thumb = thumbOf("Notes");
     move(inside(thumb));
@@ -94,7 +96,7 @@ TEST_F(EngineRulesTest, SafeZoneKeepsTheStripOutsideTheThumbnailAndOutsideEveryB
     EXPECT_FALSE(engine->overlay().hovered());
 }
 
-TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBackOnItsPoint) {
+TEST_P(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBackOnItsPoint) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));
     auto& accessibility = desktop.accessibility();
@@ -108,12 +110,10 @@ TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBa
             // opening's thumbnails are read, and the pointer comes back to the same point
             // while the shelf holds it, so that no new look-up starts.
             desktop.dock().close();
-            desktop.executor().advanceMain(MissionControlDetector::openInterval);
+            pollWhileHoverWaits(MissionControlDetector::openInterval);
             desktop.dock().open();
-            desktop.executor().advanceMain(MissionControlDetector::closedInterval);
-            // The detector reads the Dock on its own queue, then tells the engine it opened.
-            desktop.executor().queue(std::string(MissionControlDetector::queueLabel))->runOne();
-            desktop.executor().mainQueue().drain();
+            // The detector reads the tree on its own queue, then tells the engine it opened.
+            pollWhileHoverWaits(MissionControlDetector::closedInterval);
             hover->runOne();
             desktop.executor().mainQueue().drain();
             layouts.claimsPointer = true;
@@ -129,12 +129,12 @@ TEST_F(EngineRulesTest, HitTestFromAnEarlierOpeningIsDroppedEvenWithThePointerBa
     ASSERT_TRUE(staged);
     ASSERT_TRUE(engine->active());
     ASSERT_FALSE(engine->thumbs().empty());
-    ASSERT_EQ(engine->lastReading().host, MissionControlHost::dock) << "the new opening was read";
+    ASSERT_EQ(engine->lastReading().host, host()) << "the new opening was read";
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineRulesTest, ShelfShownUnderThePointWhileItIsLookedUpWinsOverTheStrip) {
+TEST_P(EngineRulesTest, ShelfShownUnderThePointWhileItIsLookedUpWinsOverTheStrip) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));
     desktop.eventTap().deliver(SimInput::mouseMoved(point));
@@ -144,7 +144,7 @@ TEST_F(EngineRulesTest, ShelfShownUnderThePointWhileItIsLookedUpWinsOverTheStrip
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineRulesTest, HoveringAWindowOfTheDockTakesTheThumbnailsWindowInstead) {
+TEST_P(EngineRulesTest, HoveringAWindowOfTheDockTakesTheThumbnailsWindowInstead) {
     openMissionControl();
     auto& ax = desktop.accessibility();
     const Pid dock = desktop.dock().pid();
@@ -159,7 +159,7 @@ TEST_F(EngineRulesTest, HoveringAWindowOfTheDockTakesTheThumbnailsWindowInstead)
     EXPECT_EQ(engine->target()->window, ax.windowElement(windowTitled("Notes")));
 }
 
-TEST_F(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
+TEST_P(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));
     move(point);
@@ -169,7 +169,7 @@ TEST_F(EngineRulesTest, ARepeatedPositionCostsNoLookUp) {
     EXPECT_EQ(desktop.accessibility().hitTests(), hitTests);
 }
 
-TEST_F(EngineRulesTest, WindowsAreEnumeratedOncePerOpeningNotPerMove) {
+TEST_P(EngineRulesTest, WindowsAreEnumeratedOncePerOpeningNotPerMove) {
     openMissionControl();
     const std::size_t opening = desktop.accessibility().attributeReads("AXWindows");
     ASSERT_GT(opening, 0u) << "the opening enumerates the windows to tie the thumbnails";
@@ -187,7 +187,7 @@ TEST_F(EngineRulesTest, WindowsAreEnumeratedOncePerOpeningNotPerMove) {
         << "a new opening enumerates them afresh";
 }
 
-TEST_F(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {
+TEST_P(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));
     move(point);
@@ -199,7 +199,7 @@ TEST_F(EngineRulesTest, AfterAnActionTheSamePointIsLookedUpAfresh) {
     EXPECT_EQ(desktop.accessibility().hitTests(), hitTests + 1);
 }
 
-TEST_F(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAnswers) {
+TEST_P(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAnswers) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     ASSERT_TRUE(engine->target());
@@ -213,7 +213,7 @@ TEST_F(EngineRulesTest, MovingOntoAnotherThumbnailDropsTheStripBeforeTheLookUpAn
               desktop.accessibility().windowElement(windowTitled("Start Page")));
 }
 
-TEST_F(EngineRulesTest, ResultForAPointThePointerHasLeftIsDropped) {
+TEST_P(EngineRulesTest, ResultForAPointThePointerHasLeftIsDropped) {
     openMissionControl();
     // Each move gets its turn of the main queue, so the first one's look-up is under way on
     // the hover queue when the pointer leaves.
@@ -225,6 +225,8 @@ TEST_F(EngineRulesTest, ResultForAPointThePointerHasLeftIsDropped) {
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
+
+INSTANTIATE_ON_EVERY_PRESENTATION(EngineRulesTest);
 
 }  // namespace
 }  // namespace vistrel::testing

@@ -30,6 +30,14 @@ void EngineScenario::tick() {
     desktop.executor().advance(MissionControlDetector::openInterval);
 }
 
+void EngineScenario::pollWhileHoverWaits(double seconds) {
+    desktop.executor().advanceMain(seconds);
+    if (auto detector = desktop.executor().queue(std::string(MissionControlDetector::queueLabel))) {
+        detector->drain();
+    }
+    desktop.executor().mainQueue().drain();
+}
+
 bool EngineScenario::move(Point point) {
     const bool passed = desktop.eventTap().deliver(SimInput::mouseMoved(point));
     settle();
@@ -97,6 +105,22 @@ std::optional<Point> EngineScenario::buttonCentre(OverlayButton kind) const {
     for (const auto& item : engine->layout()->items) {
         if (item.kind == kind) return item.rect.mid();
     }
+    return std::nullopt;
+}
+
+std::optional<SimWindowId> EngineScenario::targetOver(SimWindowId id) {
+    move({1, 1});
+    move(inside(thumbOfWindow(id)));
+    tick();
+    settle();
+    if (!engine->target()) return std::nullopt;
+    for (const SimWindow& shown : desktop.windows()) {
+        if (engine->target()->window == desktop.accessibility().windowElement(shown.id)) {
+            EXPECT_EQ(shown.id, id) << "the strip acts on another window";
+            return shown.id;
+        }
+    }
+    ADD_FAILURE() << "the target is no window of the desktop";
     return std::nullopt;
 }
 

@@ -35,6 +35,10 @@ class EngineScenario : public ::testing::Test {
     bool release(Point point);
     bool key(std::int64_t code, std::uint64_t flags, bool autorepeat = false);
     bool keyUp(std::int64_t code);
+    // One poll of the detector `seconds` from now while the hover queue waits: its timer on
+    // the main thread, its read on its own queue (where macOS 27's tree is read), and what
+    // it tells the main thread.
+    void pollWhileHoverWaits(double seconds);
     // Runs the queues until nothing is pending.
     void settle() { desktop.executor().runUntilIdle(); }
 
@@ -47,6 +51,9 @@ class EngineScenario : public ::testing::Test {
     Point inside(Rect thumb) const { return {thumb.midX(), thumb.midY()}; }
     // The centre of the strip button of a kind, when the strip shows it.
     std::optional<Point> buttonCentre(OverlayButton kind) const;
+    // The window the engine targets once the pointer came to rest over a window's
+    // thumbnail; nothing when it targets none. Any other window fails the test.
+    std::optional<SimWindowId> targetOver(SimWindowId id);
     std::size_t logged(std::string_view message) { return desktop.systemLog().count(message); }
 
     SimDesktop desktop;

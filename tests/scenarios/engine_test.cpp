@@ -4,6 +4,7 @@
 #include "engine_scenario.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "settings/shared.h"
+#include "support/presented.h"
 #include "tracking/mission_control_detector.h"
 #include "windows/window_actions.h"
 
@@ -16,46 +17,48 @@ AXElement elementOf(SimDesktop& desktop, SimWindowId id) {
     return desktop.accessibility().windowElement(id);
 }
 
-using EngineTest = EngineScenario;
+// The agent's engine on the everyday scene, on each way a Mac presents Mission Control.
+class EngineTest : public Presented<EngineScenario> {};
 
-TEST_F(EngineTest, OpeningMissionControlLogsItStartsTheTapAndReadsTheThumbnails) {
+TEST_P(EngineTest, OpeningMissionControlLogsItStartsTheTapAndReadsTheThumbnails) {
     openMissionControl();
     EXPECT_TRUE(engine->active());
     EXPECT_EQ(logged("mission control appeared"), 1u);
     EXPECT_EQ(logged("did start listening for events"), 1u);
     EXPECT_TRUE(desktop.eventTap().enabled());
-    EXPECT_EQ(engine->thumbs().size(), desktop.dock().thumbnails().size());
+    EXPECT_EQ(engine->thumbs().size(), thumbnailsRead());
     EXPECT_FALSE(engine->thumbs().empty());
 }
 
-TEST_F(EngineTest, HoveringAThumbnailShowsTheStripOverItsTopLeftCorner) {
+TEST_P(EngineTest, HoveringAThumbnailShowsTheStripOverItsTopLeftCorner) {
     openMissionControl();
     const Rect thumb = thumbOf("Notes");
     move(inside(thumb));
     ASSERT_TRUE(engine->target());
     EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Notes")));
+    EXPECT_EQ(engine->target()->pid, desktop.window(windowTitled("Notes"))->pid);
     ASSERT_TRUE(engine->layout());
     const Rect close = engine->layout()->items.front().rect;
     EXPECT_TRUE(close.contains(thumb.origin()));
     EXPECT_TRUE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineTest, PointerRestingOnAThumbnailGetsTheStripAfterTheFirstReadWithoutMoving) {
+TEST_P(EngineTest, PointerRestingOnAThumbnailGetsTheStripAfterTheFirstReadWithoutMoving) {
     desktop.dock().open();
-    desktop.application(desktop.dock().pid())->hung = true;  // the first read finds nothing
+    desktop.application(hostPid())->hung = true;  // the first read finds nothing
     desktop.executor().advance(MissionControlDetector::closedInterval);
     ASSERT_TRUE(engine->thumbs().empty());
     const Point resting = inside(thumbOf("Notes"));
     move(resting);
     EXPECT_FALSE(engine->target());
 
-    desktop.application(desktop.dock().pid())->hung = false;
+    desktop.application(hostPid())->hung = false;
     tick();
     ASSERT_TRUE(engine->target());
     EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Notes")));
 }
 
-TEST_F(EngineTest, PointerTravellingFromTheThumbnailToTheStripKeepsIt) {
+TEST_P(EngineTest, PointerTravellingFromTheThumbnailToTheStripKeepsIt) {
     openMissionControl();
     const Rect thumb = thumbOf("Notes");
     move(inside(thumb));
@@ -69,7 +72,7 @@ TEST_F(EngineTest, PointerTravellingFromTheThumbnailToTheStripKeepsIt) {
     EXPECT_EQ(engine->overlay().hovered(), OverlayButton::close);
 }
 
-TEST_F(EngineTest, PointerLeavingTheThumbnailAndTheSafeZoneDropsTheStrip) {
+TEST_P(EngineTest, PointerLeavingTheThumbnailAndTheSafeZoneDropsTheStrip) {
     openMissionControl();
     const Rect thumb = thumbOf("Notes");
     move(inside(thumb));
@@ -79,7 +82,7 @@ TEST_F(EngineTest, PointerLeavingTheThumbnailAndTheSafeZoneDropsTheStrip) {
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineTest, ClickingTheCloseButtonSwallowsTheClickAndItsReleaseAndClosesTheWindow) {
+TEST_P(EngineTest, ClickingTheCloseButtonSwallowsTheClickAndItsReleaseAndClosesTheWindow) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     const auto close = buttonCentre(OverlayButton::close);
@@ -93,7 +96,7 @@ TEST_F(EngineTest, ClickingTheCloseButtonSwallowsTheClickAndItsReleaseAndClosesT
     EXPECT_TRUE(release(*close)) << "a later release passes again";
 }
 
-TEST_F(EngineTest, StripShownAfterAnActionStartsWithNoButtonHovered) {
+TEST_P(EngineTest, StripShownAfterAnActionStartsWithNoButtonHovered) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     const auto close = buttonCentre(OverlayButton::close);
@@ -109,14 +112,14 @@ TEST_F(EngineTest, StripShownAfterAnActionStartsWithNoButtonHovered) {
     EXPECT_FALSE(engine->overlay().hovered());
 }
 
-TEST_F(EngineTest, EscapeThatPassesTheTapLeavesMissionControl) {
+TEST_P(EngineTest, EscapeThatPassesTheTapLeavesMissionControl) {
     openMissionControl();
     EXPECT_TRUE(key(KeyCode::escape, 0));
     tick();
     EXPECT_FALSE(engine->active());
 }
 
-TEST_F(EngineTest, ClickingAwayFromTheStripReachesMissionControl) {
+TEST_P(EngineTest, ClickingAwayFromTheStripReachesMissionControl) {
     openMissionControl();
     const Point point = inside(thumbOf("Notes"));
     move(point);
@@ -124,13 +127,19 @@ TEST_F(EngineTest, ClickingAwayFromTheStripReachesMissionControl) {
     EXPECT_TRUE(release(point));
 }
 
-TEST_F(EngineTest, TwoOverlappingThumbnailsUnderThePointerPickTheSmallerOne) {
+// Where the Dock draws Mission Control (up to macOS 26), a thumbnail group of its own
+// added by hand to the Dock's tree.
+class DockTreeEngineTest : public EngineTest {};
+
+TEST_P(DockTreeEngineTest, TwoOverlappingThumbnailsUnderThePointerPickTheSmallerOne) {
     openMissionControl();
     // A second, smaller Dock thumbnail group drawn over Notes' thumbnail.
     const Rect notes = thumbOf("Notes");
     const Rect small{notes.x + 10, notes.y + 10, notes.width / 2, notes.height / 2};
     auto& ax = desktop.accessibility();
-    const SimNodeId thumb = ax.addNode(desktop.dock().pid(), {{"AXFrame", small}});
+    const SimNodeId thumb = ax.addNode(desktop.dock().pid(), {{"AXRole", std::string("AXButton")},
+                                                              {"AXTitle", std::string("Notes")},
+                                                              {"AXFrame", small}});
     const SimNodeId group =
         ax.addNode(desktop.dock().pid(), {{"AXIdentifier", std::string("mc.windows")},
                                           {"AXChildren", std::vector{ax.nodeElement(thumb)}}});
@@ -149,7 +158,7 @@ TEST_F(EngineTest, TwoOverlappingThumbnailsUnderThePointerPickTheSmallerOne) {
     EXPECT_EQ(engine->layout()->items.front().rect.mid().x, small.minX() - 3);
 }
 
-TEST_F(EngineTest, CommandWClosesTheHoveredWindowAndSwallowsTheKeyAndItsRelease) {
+TEST_P(EngineTest, CommandWClosesTheHoveredWindowAndSwallowsTheKeyAndItsRelease) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     EXPECT_FALSE(key(KeyCode::w, command));
@@ -158,7 +167,7 @@ TEST_F(EngineTest, CommandWClosesTheHoveredWindowAndSwallowsTheKeyAndItsRelease)
     EXPECT_EQ(desktop.systemLog().messages().back().rfind("did close window", 0), 0u);
 }
 
-TEST_F(EngineTest, CommandWWithTheShortcutSwitchedOffPassesToMissionControl) {
+TEST_P(EngineTest, CommandWWithTheShortcutSwitchedOffPassesToMissionControl) {
     Shared::store()->set(Shared::Key::hotkeyDisabled(Hotkey::close), true);
     openMissionControl();
     move(inside(thumbOf("Notes")));
@@ -166,19 +175,19 @@ TEST_F(EngineTest, CommandWWithTheShortcutSwitchedOffPassesToMissionControl) {
     EXPECT_FALSE(desktop.window(windowTitled("Notes"))->closed);
 }
 
-TEST_F(EngineTest, ShortcutWithNothingHoveredPasses) {
+TEST_P(EngineTest, ShortcutWithNothingHoveredPasses) {
     openMissionControl();
     EXPECT_TRUE(key(KeyCode::m, command));
 }
 
-TEST_F(EngineTest, RepeatedShortcutIsConsumedWithoutActing) {
+TEST_P(EngineTest, RepeatedShortcutIsConsumedWithoutActing) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     EXPECT_FALSE(key(KeyCode::w, command, true));
     EXPECT_FALSE(desktop.window(windowTitled("Notes"))->closed);
 }
 
-TEST_F(EngineTest, WindowClosedBetweenHoverAndCommandWFailsWithOneLineAndNothingElse) {
+TEST_P(EngineTest, WindowClosedBetweenHoverAndCommandWFailsWithOneLineAndNothingElse) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     ASSERT_TRUE(engine->target());
@@ -195,19 +204,19 @@ TEST_F(EngineTest, WindowClosedBetweenHoverAndCommandWFailsWithOneLineAndNothing
     EXPECT_FALSE(engine->target());
 }
 
-TEST_F(EngineTest, MissionControlClosingWhileAHitTestIsInFlightLeavesNoOverlay) {
+TEST_P(EngineTest, MissionControlClosingWhileAHitTestIsInFlightLeavesNoOverlay) {
     openMissionControl();
     desktop.eventTap().deliver(SimInput::mouseMoved(inside(thumbOf("Notes"))));
     // The hit-test waits on the hover queue while the main thread learns Mission Control closed.
     desktop.dock().close();
-    desktop.executor().advanceMain(MissionControlDetector::openInterval);
+    pollWhileHoverWaits(MissionControlDetector::openInterval);
     ASSERT_FALSE(engine->active());
     settle();
     EXPECT_FALSE(engine->target());
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineTest, ClosingMissionControlStopsTheTapAndForgetsEverything) {
+TEST_P(EngineTest, ClosingMissionControlStopsTheTapAndForgetsEverything) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     closeMissionControl();
@@ -218,7 +227,7 @@ TEST_F(EngineTest, ClosingMissionControlStopsTheTapAndForgetsEverything) {
     EXPECT_EQ(logged("mission control went away"), 1u);
 }
 
-TEST_F(EngineTest, DockRestartingWhileMissionControlIsOpenIsFollowed) {
+TEST_P(EngineTest, DockRestartingWhileMissionControlIsOpenIsFollowed) {
     openMissionControl();
     const Pid before = desktop.dock().pid();
     desktop.dock().restart();
@@ -230,7 +239,7 @@ TEST_F(EngineTest, DockRestartingWhileMissionControlIsOpenIsFollowed) {
     EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Notes")));
 }
 
-TEST_F(EngineTest, AccessibilityGrantRevokedMidSessionClosesTheSessionAndSlowsThePace) {
+TEST_P(EngineTest, AccessibilityGrantRevokedMidSessionClosesTheSessionAndSlowsThePace) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     desktop.trusted = false;
@@ -242,7 +251,7 @@ TEST_F(EngineTest, AccessibilityGrantRevokedMidSessionClosesTheSessionAndSlowsTh
                      MissionControlDetector::untrustedInterval);
 }
 
-TEST_F(EngineTest, TapFailingToStartIsLoggedOnceAndRetriedOnEveryTick) {
+TEST_P(EngineTest, TapFailingToStartIsLoggedOnceAndRetriedOnEveryTick) {
     desktop.eventTap().creationFails = true;
     openMissionControl();
     for (int i = 0; i < 5; ++i)
@@ -263,7 +272,7 @@ TEST_F(EngineTest, TapFailingToStartIsLoggedOnceAndRetriedOnEveryTick) {
         << "a new run of failures is logged again";
 }
 
-TEST_F(EngineTest, HoveringTheAgentsOwnWindowShowsNoStrip) {
+TEST_P(EngineTest, HoveringTheAgentsOwnWindowShowsNoStrip) {
     SimApplication agent;
     agent.pid = desktop.ownPid;
     agent.bundleIdentifier = "com.quillmarsh.vistrel";
@@ -279,7 +288,7 @@ TEST_F(EngineTest, HoveringTheAgentsOwnWindowShowsNoStrip) {
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(EngineTest, HoveringADockElementTakesTheThumbnailsWindowNotTheDock) {
+TEST_P(EngineTest, HoveringADockElementTakesTheThumbnailsWindowNotTheDock) {
     openMissionControl();
     const Rect notes = thumbOf("Notes");
     const AXElement dockElement = desktop.accessibility().application(desktop.dock().pid());
@@ -289,7 +298,7 @@ TEST_F(EngineTest, HoveringADockElementTakesTheThumbnailsWindowNotTheDock) {
     EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Notes")));
 }
 
-TEST_F(EngineTest, HoveringADockElementOverNoThumbnailShowsNoStrip) {
+TEST_P(EngineTest, HoveringADockElementOverNoThumbnailShowsNoStrip) {
     openMissionControl();
     const AXElement dockElement = desktop.accessibility().application(desktop.dock().pid());
     desktop.accessibility().hitTestOverride = [dockElement](Point) { return dockElement; };
@@ -297,7 +306,7 @@ TEST_F(EngineTest, HoveringADockElementOverNoThumbnailShowsNoStrip) {
     EXPECT_FALSE(engine->target());
 }
 
-TEST_F(EngineTest, PointerStormIssuesNoMoreHitTestsThanTimeAllowsAndEndsOnTheLastPoint) {
+TEST_P(EngineTest, PointerStormIssuesNoMoreHitTestsThanTimeAllowsAndEndsOnTheLastPoint) {
     constexpr double hitTestSeconds = 0.008;
     constexpr int moves = 2000;  // 1,000 a second for 2 seconds
     constexpr double step = 0.001;
@@ -329,6 +338,12 @@ TEST_F(EngineTest, PointerStormIssuesNoMoreHitTestsThanTimeAllowsAndEndsOnTheLas
     EXPECT_EQ(engine->target()->window, elementOf(desktop, windowTitled("Start Page")));
     EXPECT_TRUE(engine->overlay().window().isVisible());
 }
+
+INSTANTIATE_ON_EVERY_PRESENTATION(EngineTest);
+INSTANTIATE_TEST_SUITE_P(DockPresentations, DockTreeEngineTest,
+                         ::testing::Values(SimPresentation::hitTestWindow,
+                                           SimPresentation::hitTestThumbnail),
+                         PresentationName{});
 
 }  // namespace
 }  // namespace vistrel::testing
