@@ -355,9 +355,12 @@ void Engine::afterAction() {
     lastPoint_.reset();
 }
 
+// The moved windows' thumbnails take new shapes, which the windows enumerated at the
+// opening no longer have: the hover queue ties them afresh from the next read on.
 void Engine::windowsMoved() {
     clearTarget();
     ticks_ = 0;
+    axQueue_->async([targets = targets_] { targets->windowsMoved(); });
 }
 
 }  // namespace vistrel

@@ -116,4 +116,10 @@ std::optional<AX::WindowHit> ThumbnailTargets::hovered(Point point, std::uint64_
     return at(point, generation);
 }
 
+void ThumbnailTargets::windowsMoved() {
+    enumerated_ = false;
+    ties_.clear();
+    current_.clear();
+}
+
 }  // namespace vistrel

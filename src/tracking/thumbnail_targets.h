@@ -37,6 +37,11 @@ class ThumbnailTargets {
     std::optional<AX::WindowHit> hovered(Point point, std::uint64_t generation, Pid ownPid,
                                          Pid hostPid) const;
 
+    // The agent moved windows while Mission Control stays open: their thumbnails change
+    // shape, so the windows are enumerated again at the next tie and every tie made anew.
+    // Until the next update no thumbnail leads to a window.
+    void windowsMoved();
+
   private:
     struct Tie {
         std::optional<std::string> thumbnailTitle;

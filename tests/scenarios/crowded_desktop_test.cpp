@@ -5,6 +5,7 @@
 #include "layouts_scenario.h"
 #include "platform/sim/sim_crowded_scene.h"
 #include "settings/shared.h"
+#include "support/presented.h"
 #include "windows/screens.h"
 
 namespace vistrel::testing {
@@ -21,10 +22,11 @@ void populateCrowd(SimDesktop& desktop) {
 }
 
 // Five hundred windows on eight displays: Mission Control shows them all, and hovering,
-// snapping and restoring work as on an everyday desktop.
-class CrowdedDesktopTest : public LayoutsScenario {
+// snapping and restoring work as on an everyday desktop, on each way a Mac presents Mission
+// Control.
+class CrowdedDesktopTest : public Presented<LayoutsScenario> {
   protected:
-    CrowdedDesktopTest() : LayoutsScenario(populateCrowd) {}
+    CrowdedDesktopTest() : Presented(populateCrowd) {}
 
     // The usable area of the screen that holds a window.
     Rect usableAreaOf(const std::string& title) {
@@ -35,13 +37,13 @@ class CrowdedDesktopTest : public LayoutsScenario {
     }
 };
 
-TEST_F(CrowdedDesktopTest, MissionControlOpensWithAThumbnailForEveryWindow) {
+TEST_P(CrowdedDesktopTest, MissionControlOpensWithAThumbnailForEveryWindow) {
     openMissionControl();
     EXPECT_TRUE(engine->active());
     EXPECT_EQ(engine->thumbs().size(), windows);
 }
 
-TEST_F(CrowdedDesktopTest, HoveringAThumbnailOnTheLastDisplayShowsItsStrip) {
+TEST_P(CrowdedDesktopTest, HoveringAThumbnailOnTheLastDisplayShowsItsStrip) {
     openMissionControl();
     // Windows are dealt out over the screens in turn: window 8 is on the eighth.
     hover("Window 8");
@@ -52,7 +54,7 @@ TEST_F(CrowdedDesktopTest, HoveringAThumbnailOnTheLastDisplayShowsItsStrip) {
     EXPECT_FALSE(thumbOf("Window 8").intersection(strip).isEmpty()) << "over its own thumbnail";
 }
 
-TEST_F(CrowdedDesktopTest, SnappingAWindowOnTheFifthDisplayPutsItOnTheLeftHalfThere) {
+TEST_P(CrowdedDesktopTest, SnappingAWindowOnTheFifthDisplayPutsItOnTheLeftHalfThere) {
     openMissionControl();
     const Rect area = usableAreaOf("Window 485");
     hover("Window 485");
@@ -61,7 +63,7 @@ TEST_F(CrowdedDesktopTest, SnappingAWindowOnTheFifthDisplayPutsItOnTheLeftHalfTh
     EXPECT_EQ(frameOf("Window 485"), UnitRect({0, 0, 0.5, 1}).frame(area, 0));
 }
 
-TEST_F(CrowdedDesktopTest, RestoringALayoutMovesItsWindowsAmongTheCrowd) {
+TEST_P(CrowdedDesktopTest, RestoringALayoutMovesItsWindowsAmongTheCrowd) {
     const SavedLayout layout{
         UUID::random(),
         "Crowd",
@@ -77,6 +79,8 @@ TEST_F(CrowdedDesktopTest, RestoringALayoutMovesItsWindowsAmongTheCrowd) {
     EXPECT_EQ(frameOf("Window 491"), UnitRect({0, 0, 0.5, 1}).frame(area, 0));
     EXPECT_EQ(frameOf("Window 500"), UnitRect({0.5, 0, 0.5, 1}).frame(area, 0));
 }
+
+INSTANTIATE_ON_EVERY_PRESENTATION(CrowdedDesktopTest);
 
 }  // namespace
 }  // namespace vistrel::testing

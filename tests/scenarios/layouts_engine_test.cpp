@@ -5,21 +5,23 @@
 #include "layouts_scenario.h"
 #include "platform/sim/sim_event_tap_port.h"
 #include "settings/shared.h"
+#include "support/presented.h"
 
 namespace vistrel::testing {
 namespace {
 
 using Item = ShelfLayout::Item;
-using LayoutsEngineTest = LayoutsScenario;
+// The Layouts feature inside the engine, on each way a Mac presents Mission Control.
+class LayoutsEngineTest : public Presented<LayoutsScenario> {};
 
-TEST_F(LayoutsEngineTest, OpeningMissionControlShowsTheFoldedShelf) {
+TEST_P(LayoutsEngineTest, OpeningMissionControlShowsTheFoldedShelf) {
     openMissionControl();
     EXPECT_TRUE(layouts().isOpen());
     EXPECT_TRUE(layouts().shelf().isVisible());
     EXPECT_EQ(layouts().shelfFrame(), layouts().layout()->pill);
 }
 
-TEST_F(LayoutsEngineTest, EscapeWhileComposingCancelsItAndIsSwallowed) {
+TEST_P(LayoutsEngineTest, EscapeWhileComposingCancelsItAndIsSwallowed) {
     openMissionControl();
     unfoldShelf();
     clickCell(Item::layoutTemplate(0));
@@ -29,7 +31,7 @@ TEST_F(LayoutsEngineTest, EscapeWhileComposingCancelsItAndIsSwallowed) {
     EXPECT_TRUE(layouts().isOpen());
 }
 
-TEST_F(LayoutsEngineTest, ReturnWhileComposingFinishesWithThePickedWindows) {
+TEST_P(LayoutsEngineTest, ReturnWhileComposingFinishesWithThePickedWindows) {
     openMissionControl();
     unfoldShelf();
     clickCell(Item::layoutTemplate(2));
@@ -40,7 +42,7 @@ TEST_F(LayoutsEngineTest, ReturnWhileComposingFinishesWithThePickedWindows) {
     EXPECT_EQ(frameOf("Notes"), UnitRect({0, 0, 1.0 / 3.0, 1}).frame(usableArea(), 0));
 }
 
-TEST_F(LayoutsEngineTest, AClickOnAThumbnailWhileComposingPicksItAndIsSwallowed) {
+TEST_P(LayoutsEngineTest, AClickOnAThumbnailWhileComposingPicksItAndIsSwallowed) {
     openMissionControl();
     unfoldShelf();
     clickCell(Item::layoutTemplate(0));
@@ -50,7 +52,7 @@ TEST_F(LayoutsEngineTest, AClickOnAThumbnailWhileComposingPicksItAndIsSwallowed)
     EXPECT_EQ(layouts().badges().shown(), 1u);
 }
 
-TEST_F(LayoutsEngineTest, TheShelfTakesThePointerAndTheStripGoes) {
+TEST_P(LayoutsEngineTest, TheShelfTakesThePointerAndTheStripGoes) {
     openMissionControl();
     hover("Notes");
     ASSERT_TRUE(engine->target());
@@ -59,7 +61,7 @@ TEST_F(LayoutsEngineTest, TheShelfTakesThePointerAndTheStripGoes) {
     EXPECT_FALSE(engine->overlay().window().isVisible());
 }
 
-TEST_F(LayoutsEngineTest, HoldingOptionMarksTheShelfForDeleting) {
+TEST_P(LayoutsEngineTest, HoldingOptionMarksTheShelfForDeleting) {
     openMissionControl();
     desktop.eventTap().deliver(SimInput::flagsChanged(ModifierFlag::option));
     EXPECT_TRUE(layouts().shelf().view().state().optionHeld);
@@ -69,7 +71,7 @@ TEST_F(LayoutsEngineTest, HoldingOptionMarksTheShelfForDeleting) {
 
 // The shelf does not unfold under a window being dragged, so the drag starts on a thumbnail
 // reaching down to just above the unfolded shelf.
-TEST_F(LayoutsEngineTest, DraggingAThumbnailOntoATemplateSlotPlacesTheWindowThere) {
+TEST_P(LayoutsEngineTest, DraggingAThumbnailOntoATemplateSlotPlacesTheWindowThere) {
     openMissionControl();
     unfoldShelf();
     const Rect shelf = layouts().layout()->frame;
@@ -99,10 +101,12 @@ TEST_F(LayoutsEngineTest, DraggingAThumbnailOntoATemplateSlotPlacesTheWindowTher
               UnitRect({0.5, 0.5, 0.5, 0.5}).frame(usableArea(), 0));
 }
 
-TEST_F(LayoutsEngineTest, CommandDigitBeyondTheSavedLayoutsPassesOn) {
+TEST_P(LayoutsEngineTest, CommandDigitBeyondTheSavedLayoutsPassesOn) {
     openMissionControl();
     EXPECT_TRUE(key(18, ModifierFlag::command));
 }
+
+INSTANTIATE_ON_EVERY_PRESENTATION(LayoutsEngineTest);
 
 }  // namespace
 }  // namespace vistrel::testing

@@ -5,6 +5,7 @@
 #include "layouts_scenario.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "support/presented.h"
 
 namespace vistrel::testing {
 namespace {
@@ -15,9 +16,11 @@ constexpr std::uint64_t command = ModifierFlag::command;
 constexpr std::int64_t leftArrow = 123;
 constexpr std::int64_t digitTwo = 19;
 
-using LayoutsStoryTest = LayoutsScenario;
+// Composing, snapping and restoring as a user does them, on each way a Mac presents Mission
+// Control.
+class LayoutsStoryTest : public Presented<LayoutsScenario> {};
 
-TEST_F(LayoutsStoryTest, ComposingHalvesByClickingTwoWindowsSavesItAndPlacesThemSideBySide) {
+TEST_P(LayoutsStoryTest, ComposingHalvesByClickingTwoWindowsSavesItAndPlacesThemSideBySide) {
     Shared::store()->set(std::string(PreferenceKey::layoutsGap), 10.0);
     openMissionControl();
     unfoldShelf();
@@ -39,7 +42,7 @@ TEST_F(LayoutsStoryTest, ComposingHalvesByClickingTwoWindowsSavesItAndPlacesThem
     EXPECT_EQ(frameOf("Start Page").minX() - frameOf("Notes").maxX(), 10);
 }
 
-TEST_F(LayoutsStoryTest, CommandLeftThreeTimesCyclesHalfTwoThirdsThird) {
+TEST_P(LayoutsStoryTest, CommandLeftThreeTimesCyclesHalfTwoThirdsThird) {
     openMissionControl();
     const Rect area = usableArea();
     const std::vector<UnitRect> expected{
@@ -56,7 +59,7 @@ TEST_F(LayoutsStoryTest, CommandLeftThreeTimesCyclesHalfTwoThirdsThird) {
         1u);
 }
 
-TEST_F(LayoutsStoryTest, CommandTwoRestoresTheSecondLayoutLaunchingTheQuitApplication) {
+TEST_P(LayoutsStoryTest, CommandTwoRestoresTheSecondLayoutLaunchingTheQuitApplication) {
     SavedLayout first{
         UUID::random(), "Mail", {{"com.apple.mail", "Mail", "", {0, 0, 1, 1}, std::nullopt}}, 0};
     SavedLayout second{
@@ -90,7 +93,7 @@ TEST_F(LayoutsStoryTest, CommandTwoRestoresTheSecondLayoutLaunchingTheQuitApplic
     EXPECT_EQ(frameOf("Downloads"), UnitRect({0.5, 0, 0.5, 1}).frame(area, 0));
 }
 
-TEST_F(LayoutsStoryTest, RestoringOntoAMachineWithoutTheSavedDisplayUsesTheFirstScreen) {
+TEST_P(LayoutsStoryTest, RestoringOntoAMachineWithoutTheSavedDisplayUsesTheFirstScreen) {
     desktop.addScreenToTheRight({1920, 1080});
     SavedLayout layout{UUID::random(),
                        "Mail",
@@ -133,6 +136,8 @@ TEST_P(ComposeInterruptedTest, ClosingMissionControlLeavesNothingShownAndLogsThe
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryStep, ComposeInterruptedTest, ::testing::Values(0, 1, 2, 3));
+
+INSTANTIATE_ON_EVERY_PRESENTATION(LayoutsStoryTest);
 
 }  // namespace
 }  // namespace vistrel::testing

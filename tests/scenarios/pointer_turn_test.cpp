@@ -2,13 +2,15 @@
 
 #include "layouts_scenario.h"
 #include "platform/sim/sim_event_tap_port.h"
+#include "support/presented.h"
 
 namespace vistrel::testing {
 namespace {
 
 // The system holds its input while the event tap's callback runs, so a pointer move is only
-// recorded there and handled on the next turn of the main queue.
-class PointerTurnTest : public LayoutsScenario {
+// recorded there and handled on the next turn of the main queue, whichever way the Mac
+// presents Mission Control.
+class PointerTurnTest : public Presented<LayoutsScenario> {
   protected:
     // Delivers a move through the tap without running anything the tap asked for.
     void deliverMove(Point point) { desktop.eventTap().deliver(SimInput::mouseMoved(point)); }
@@ -19,7 +21,7 @@ class PointerTurnTest : public LayoutsScenario {
     }
 };
 
-TEST_F(PointerTurnTest, AMoveOntoTheShelfUnfoldsItOnTheNextTurnNotInsideTheTapCallback) {
+TEST_P(PointerTurnTest, AMoveOntoTheShelfUnfoldsItOnTheNextTurnNotInsideTheTapCallback) {
     openMissionControl();
     ASSERT_FALSE(layouts().unfolded());
 
@@ -30,7 +32,7 @@ TEST_F(PointerTurnTest, AMoveOntoTheShelfUnfoldsItOnTheNextTurnNotInsideTheTapCa
     EXPECT_TRUE(layouts().unfolded());
 }
 
-TEST_F(PointerTurnTest, MovesWaitingForTheSameTurnAskForOneTurnAndTheNewestIsHandled) {
+TEST_P(PointerTurnTest, MovesWaitingForTheSameTurnAskForOneTurnAndTheNewestIsHandled) {
     openMissionControl();
     deliverMove(inside(thumbOf("Notes")));
     deliverMove(inside(thumbOf("Inbox – iCloud")));
@@ -45,7 +47,7 @@ TEST_F(PointerTurnTest, MovesWaitingForTheSameTurnAskForOneTurnAndTheNewestIsHan
 
 // The click follows the move in the order the user made them: the pointer has left the
 // strip, so the click is not one on its close button.
-TEST_F(PointerTurnTest, AClickHandlesTheMoveBeforeItSoItNeverActsWhereThePointerWas) {
+TEST_P(PointerTurnTest, AClickHandlesTheMoveBeforeItSoItNeverActsWhereThePointerWas) {
     openMissionControl();
     move(inside(thumbOf("Notes")));
     const auto close = buttonCentre(OverlayButton::close);
@@ -57,6 +59,8 @@ TEST_F(PointerTurnTest, AClickHandlesTheMoveBeforeItSoItNeverActsWhereThePointer
 
     EXPECT_FALSE(desktop.window(windowTitled("Notes"))->closed);
 }
+
+INSTANTIATE_ON_EVERY_PRESENTATION(PointerTurnTest);
 
 }  // namespace
 }  // namespace vistrel::testing
