@@ -10,33 +10,16 @@
 #include "base/hotkey.h"
 #include "layouts_scenario.h"
 #include "platform/sim/sim_event_tap_port.h"
-#include "platform/sim/sim_presentation.h"
+#include "platform/sim/sim_title_scene.h"
+#include "support/presented.h"
 
 namespace vistrel::testing {
 namespace {
 
 using Item = ShelfLayout::Item;
 
-class FailOpenTest : public LayoutsScenario, public ::testing::WithParamInterface<SimPresentation> {
+class FailOpenTest : public Presented<LayoutsScenario> {
   protected:
-    FailOpenTest() { present(desktop, GetParam()); }
-
-    // Two TextEdit windows alike in title and shape; thumbnails that name no window cannot
-    // tell them apart.
-    void addAlikeWindows() {
-        SimApplication app;
-        app.bundleIdentifier = "com.apple.TextEdit";
-        app.name = "TextEdit";
-        const Pid pid = desktop.addApplication(app);
-        first_ = desktop.addWindow(pid, alike({100, 100, 600, 400}));
-        second_ = desktop.addWindow(pid, alike({700, 300, 600, 400}));
-    }
-    static SimWindow alike(Rect frame) {
-        SimWindow window;
-        window.title = "Untitled";
-        window.frame = frame;
-        return window;
-    }
     // Every shortcut, pressed with the pointer at rest over the point: each must go on to
     // the system and leave every window as it was.
     void everyShortcutPassesOver(Point point) {
@@ -55,8 +38,6 @@ class FailOpenTest : public LayoutsScenario, public ::testing::WithParamInterfac
             EXPECT_FALSE(window.closed || window.minimized) << window.title;
         }
     }
-    SimWindowId first_ = 0;
-    SimWindowId second_ = 0;
 };
 
 // Where the hit-test or the thumbnail names the window, alike windows are told apart; these
@@ -64,9 +45,9 @@ class FailOpenTest : public LayoutsScenario, public ::testing::WithParamInterfac
 class UncertainWindowTest : public FailOpenTest {};
 
 TEST_P(UncertainWindowTest, EveryShortcutOverAWindowVistrelIsNotSureOfGoesToTheSystem) {
-    addAlikeWindows();
+    const SimTitleScene scene = addTitleScene(desktop);
     openMissionControl();
-    everyShortcutPassesOver(inside(thumbOfWindow(first_)));
+    everyShortcutPassesOver(inside(thumbOfWindow(scene.alikeFirst)));
 }
 
 TEST_P(FailOpenTest, EveryShortcutGoesToTheSystemWhenMissionControlsTreeIsEmpty) {
@@ -79,12 +60,12 @@ TEST_P(FailOpenTest, EveryShortcutGoesToTheSystemWhenMissionControlsTreeIsEmpty)
 }
 
 TEST_P(UncertainWindowTest, AClickWhileComposingOnAWindowVistrelIsNotSureOfGoesOnToMissionControl) {
-    addAlikeWindows();
+    const SimTitleScene scene = addTitleScene(desktop);
     openMissionControl();
     unfoldShelf();
     clickCell(Item::layoutTemplate(0));
     ASSERT_TRUE(layouts().isComposing());
-    const Point at = inside(thumbOfWindow(second_));
+    const Point at = inside(thumbOfWindow(scene.alikeSecond));
     move(at);
     EXPECT_TRUE(press(at)) << "the click reaches Mission Control";
     EXPECT_TRUE(release(at));
@@ -105,17 +86,11 @@ TEST_P(FailOpenTest, APressDraggingWhoseReleaseWasLostEndsAtTheNextPlainMove) {
     EXPECT_FALSE(layouts().pressDragging());
 }
 
-INSTANTIATE_TEST_SUITE_P(MissionControlPresentations, FailOpenTest,
-                         ::testing::ValuesIn(everyPresentation),
-                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
-                             return std::string(name(info.param));
-                         });
+INSTANTIATE_ON_EVERY_PRESENTATION(FailOpenTest);
 INSTANTIATE_TEST_SUITE_P(ThumbnailsNamingNoWindow, UncertainWindowTest,
                          ::testing::Values(SimPresentation::hitTestThumbnail,
                                            SimPresentation::unnumberedThumbnails),
-                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
-                             return std::string(name(info.param));
-                         });
+                         PresentationName{});
 
 }  // namespace
 }  // namespace vistrel::testing

@@ -8,6 +8,7 @@
 #include "platform/sim/sim_capture_scene.h"
 #include "platform/sim/sim_presentation.h"
 #include "platform/sim/sim_scene.h"
+#include "support/presented.h"
 #include "support/sim_test.h"
 #include "support/temp_dir.h"
 #include "tracking/ax.h"
@@ -275,10 +276,7 @@ TEST_P(CaptureRoundTripTest, TheReplayHoversWhatTheCapturedMacHovers) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Presentations, CaptureRoundTripTest,
-                         ::testing::ValuesIn(everyPresentation),
-                         [](const ::testing::TestParamInfo<SimPresentation>& info) {
-                             return std::string(name(info.param));
-                         });
+                         ::testing::ValuesIn(everyPresentation), testing::PresentationName{});
 
 }  // namespace
 }  // namespace vistrel
