@@ -128,19 +128,26 @@ std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, bool launchAp
     return std::move(opened.window);
 }
 
-// Records one arranged window; none when its application no longer runs or has no bundle
-// identifier, as such a window could never be paired again.
-std::optional<SavedLayout::Window> record(const LayoutActions::Placement& placement,
-                                          const ScreenInfo& screen) {
-    const auto owner = platform().workspace.application(placement.ref.pid);
-    if (!owner || !owner->bundleIdentifier) return std::nullopt;
-    return SavedLayout::Window{
-        *owner->bundleIdentifier,
-        owner->localizedName.value_or(std::string()),
-        AX::string(placement.ref.element, WindowAttribute::title).value_or(std::string()),
-        placement.rect,
-        displayOf(screen),
-        WindowMover::documentOf(placement.ref.element)};
+// Where a window goes in a layout: its slot on a screen.
+struct Slot {
+    UnitRect rect;
+    ScreenInfo screen;
+};
+
+// The windows as a layout saves them, each with the file it shows and a Finder window with
+// the folder it shows (Finder asked once for them all), in the slot `slotOf` gives it; a
+// window it gives none is left out.
+template <typename SlotOf>
+std::vector<SavedLayout::Window> saved(std::vector<OpenWindow> windows, SlotOf slotOf) {
+    FinderFolders::fill(windows);
+    std::vector<SavedLayout::Window> saved;
+    for (const OpenWindow& window : windows) {
+        const std::optional<Slot> slot = slotOf(window);
+        if (!slot) continue;
+        saved.push_back({window.bundleID, window.app, window.title, slot->rect,
+                         displayOf(slot->screen), window.document});
+    }
+    return saved;
 }
 
 // Keeps how a window is before it moves.
@@ -163,17 +170,12 @@ std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows,
 }
 
 std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap) {
-    std::vector<OpenWindow> visible = WindowMover::visibleWindows();
-    FinderFolders::fill(visible);
-    std::vector<SavedLayout::Window> captured;
-    for (const OpenWindow& window : visible) {
+    const auto slotOf = [&screens, gap](const OpenWindow& window) -> std::optional<Slot> {
         const auto screen = Screens::holding(window.frame, screens);
-        if (!screen) continue;
-        captured.push_back({window.bundleID, window.app, window.title,
-                            capturedRect(window.frame, screen->visible, gap), displayOf(*screen),
-                            window.document});
-    }
-    return layoutOf(std::move(captured), screens);
+        if (!screen) return std::nullopt;
+        return Slot{capturedRect(window.frame, screen->visible, gap), *screen};
+    };
+    return layoutOf(saved(WindowMover::visibleWindows(), slotOf), screens);
 }
 
 LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
@@ -205,6 +207,9 @@ LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
 Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
                  double gap, Before& before) {
     Arranged arranged;
+    // A window whose application no longer runs or has no bundle identifier is placed but not
+    // recorded: it could never be paired again.
+    std::vector<OpenWindow> recorded;
     for (const LayoutActions::Placement& placement : placements) {
         const WindowRef& ref = placement.ref;
         if (WindowMover::isFullScreen(ref.element)) continue;
@@ -213,8 +218,15 @@ Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const 
                                   placement.rect.frame(screen.visible, gap))) {
             arranged.moved.push_back(ref);
         }
-        if (auto window = record(placement, screen)) arranged.windows.push_back(std::move(*window));
+        if (auto window = WindowMover::window(ref)) recorded.push_back(std::move(*window));
     }
+    const auto slotOf = [&placements, &screen](const OpenWindow& window) -> std::optional<Slot> {
+        const auto placed =
+            std::ranges::find(placements, window.ref, &LayoutActions::Placement::ref);
+        if (placed == placements.end()) return std::nullopt;
+        return Slot{placed->rect, screen};
+    };
+    arranged.windows = saved(std::move(recorded), slotOf);
     Log::info("layouts: arranged " + std::to_string(arranged.windows.size()) + " windows");
     return arranged;
 }
