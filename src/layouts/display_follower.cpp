@@ -82,10 +82,14 @@ void DisplayFollower::follow(const SavedLayout& layout, FollowDisplaysMode mode)
             setOffer(Offer{layout.id, layout.name});
             return;
         case FollowDisplaysMode::automatic:
-            Log::info("layouts: the displays changed; restoring " + quoted(layout.name) +
-                      " for these displays");
             // Nothing is launched and nothing raised: the user is at work in another window.
-            LayoutActions::restore(layout, {.mayLaunch = false, .raises = false}, {});
+            // The restore keeps its own lines to itself: all of it is one line, once done.
+            LayoutActions::restore(layout, {.mayLaunch = false, .raises = false, .logs = false},
+                                   [name = layout.name](const LayoutActions::Restored& restored) {
+                                       Log::info("layouts: the displays changed; restored " +
+                                                 quoted(name) + " for these displays, " +
+                                                 restored.counts());
+                                   });
             return;
     }
 }

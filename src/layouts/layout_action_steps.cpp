@@ -59,20 +59,22 @@ std::vector<std::string> distinctBundleIDs(const std::vector<SavedLayout::Window
 }
 
 // The running application, launched first when the user allows it.
-std::optional<RunningApplication> applicationFor(const std::string& bundleID, bool launchApps) {
+std::optional<RunningApplication> applicationFor(const std::string& bundleID,
+                                                 const RestoreRequest& request) {
     auto app = WindowMover::running(bundleID);
-    if (!app && launchApps) app = WindowMover::launch(bundleID);
-    if (!app) Log::info("layouts: " + bundleID + " is not running, its windows are skipped");
+    if (!app && request.launchApps) app = WindowMover::launch(bundleID);
+    if (!app && request.logs) {
+        Log::info("layouts: " + bundleID + " is not running, its windows are skipped");
+    }
     return app;
 }
 
 // The windows of the layout's applications, minimized ones included, application by
 // application in the layout's order.
-std::vector<OpenWindow> openWindows(const std::vector<SavedLayout::Window>& saved,
-                                    bool launchApps) {
+std::vector<OpenWindow> openWindows(const RestoreRequest& request) {
     std::vector<OpenWindow> open;
-    for (const std::string& bundleID : distinctBundleIDs(saved)) {
-        const auto app = applicationFor(bundleID, launchApps);
+    for (const std::string& bundleID : distinctBundleIDs(request.layout.windows)) {
+        const auto app = applicationFor(bundleID, request);
         if (!app) continue;
         if (app->hidden) platform().workspace.unhide(app->pid);
         std::vector<OpenWindow> more = WindowMover::windows(*app, true);
@@ -120,10 +122,12 @@ bool holdsFinderFolder(const std::vector<SavedLayout::Window>& saved) {
 
 // The new window of a saved window's file, opened again because its window has gone; none
 // when it showed no file, its application may not be launched, or the file is gone (counted).
-std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, bool launchApps, int& gone) {
+std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, const RestoreRequest& request,
+                                 int& gone) {
     if (!saved.document) return std::nullopt;
-    if (!launchApps && !WindowMover::running(saved.bundleID)) return std::nullopt;
-    DocumentOpener::Opened opened = DocumentOpener::open(saved.bundleID, *saved.document);
+    if (!request.launchApps && !WindowMover::running(saved.bundleID)) return std::nullopt;
+    DocumentOpener::Opened opened =
+        DocumentOpener::open(saved.bundleID, *saved.document, request.logs);
     if (opened.gone) ++gone;
     return std::move(opened.window);
 }
@@ -180,15 +184,16 @@ std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, doubl
 
 LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
     const std::vector<SavedLayout::Window>& saved = request.layout.windows;
-    std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
+    std::vector<OpenWindow> open = openWindows(request);
     if (holdsFinderFolder(saved)) FinderFolders::fill(open);
     const auto pairing = LayoutMatch::pair(saved, matchKeys(open));
     LayoutActions::Restored restored;
+    restored.windows = saved.size();
     for (std::size_t i = 0; i < saved.size() && i < pairing.size(); ++i) {
         const ScreenInfo* screen = targetScreen(saved[i].display, request.screens);
         if (screen == nullptr) continue;
         std::optional<OpenWindow> reopened;
-        if (!pairing[i]) reopened = reopen(saved[i], request.launchApps, restored.documentsGone);
+        if (!pairing[i]) reopened = reopen(saved[i], request, restored.documentsGone);
         if (!pairing[i] && !reopened) continue;
         const OpenWindow& partner = reopened ? *reopened : open[*pairing[i]];
         remember(before, partner.ref);
@@ -196,11 +201,9 @@ LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
             restored.moved.push_back(partner.ref);
         }
     }
-    std::string line = "layouts: restored \"" + request.layout.name + "\", " +
-                       std::to_string(restored.moved.size()) + " of " +
-                       std::to_string(saved.size()) + " windows";
-    if (restored.documentsGone > 0) line += ", " + restored.goneMessage();
-    Log::info(line);
+    if (request.logs) {
+        Log::info("layouts: restored \"" + request.layout.name + "\", " + restored.counts());
+    }
     return restored;
 }
 
