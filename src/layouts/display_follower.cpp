@@ -94,14 +94,14 @@ void DisplayFollower::follow(const SavedLayout& layout, FollowDisplaysMode mode)
     }
 }
 
-void DisplayFollower::acceptOffer() {
+void DisplayFollower::acceptOffer(LayoutActions::RestoreDone done) {
     if (!offer_) return;
     const Offer offer = *offer_;
     setOffer(std::nullopt);
     for (const SavedLayout& layout : LayoutStore::load(*Shared::store())) {
         if (layout.id != offer.id) continue;
         Log::info("layouts: restoring " + quoted(layout.name) + " for these displays");
-        LayoutActions::restore(layout, {});
+        LayoutActions::restore(layout, std::move(done));
         return;
     }
     Log::info("layouts: " + quoted(offer.name) + " was deleted before it could be restored");

@@ -71,6 +71,12 @@ std::string LayoutActions::Restored::counts() const {
     return text;
 }
 
+std::optional<std::string> LayoutActions::Restored::message() const {
+    if (documentsGone > 0) return goneMessage();
+    if (moved.empty()) return "None of its windows are open";
+    return std::nullopt;
+}
+
 double LayoutActions::gap() {
     const double gap = Settings::shared().layoutsGap();
     // A stored NaN passes the clamp unchanged and would make every frame unwritable.

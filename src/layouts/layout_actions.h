@@ -55,6 +55,9 @@ struct LayoutActions {
         std::string goneMessage() const;
         // What it did, for the log: "1 of 2 windows", then the files gone when any were.
         std::string counts() const;
+        // What the user is told once it is done, when anything: the files that no longer
+        // exist, else that none of the layout's windows are open.
+        std::optional<std::string> message() const;
     };
 
     using CaptureDone = std::function<void(std::optional<SavedLayout>)>;
