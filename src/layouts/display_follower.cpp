@@ -82,22 +82,26 @@ void DisplayFollower::follow(const SavedLayout& layout, FollowDisplaysMode mode)
             setOffer(Offer{layout.id, layout.name});
             return;
         case FollowDisplaysMode::automatic:
-            Log::info("layouts: the displays changed; restoring " + quoted(layout.name) +
-                      " for these displays");
             // Nothing is launched and nothing raised: the user is at work in another window.
-            LayoutActions::restore(layout, {.mayLaunch = false, .raises = false}, {});
+            // The restore keeps its own lines to itself: all of it is one line, once done.
+            LayoutActions::restore(layout, {.mayLaunch = false, .raises = false, .logs = false},
+                                   [name = layout.name](const LayoutActions::Restored& restored) {
+                                       Log::info("layouts: the displays changed; restored " +
+                                                 quoted(name) + " for these displays, " +
+                                                 restored.counts());
+                                   });
             return;
     }
 }
 
-void DisplayFollower::acceptOffer() {
+void DisplayFollower::acceptOffer(LayoutActions::RestoreDone done) {
     if (!offer_) return;
     const Offer offer = *offer_;
     setOffer(std::nullopt);
     for (const SavedLayout& layout : LayoutStore::load(*Shared::store())) {
         if (layout.id != offer.id) continue;
         Log::info("layouts: restoring " + quoted(layout.name) + " for these displays");
-        LayoutActions::restore(layout, {});
+        LayoutActions::restore(layout, std::move(done));
         return;
     }
     Log::info("layouts: " + quoted(offer.name) + " was deleted before it could be restored");

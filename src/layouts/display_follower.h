@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "layouts/layout_actions.h"
 #include "layouts/saved_layout.h"
 #include "settings/settings.h"
 
@@ -41,8 +42,9 @@ class DisplayFollower {
     void stop();
 
     const std::optional<Offer>& offer() const { return offer_; }
-    // Restores the offered layout, as a restore from the panel does; the offer is then gone.
-    void acceptOffer();
+    // Restores the offered layout, as a restore from the panel does, and calls `done` with
+    // what the restore did; the offer is then gone.
+    void acceptOffer(LayoutActions::RestoreDone done = {});
     // Called whenever an offer appears or goes.
     void setOnOfferChanged(std::function<void()> callback) {
         onOfferChanged_ = std::move(callback);

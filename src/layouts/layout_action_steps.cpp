@@ -59,20 +59,22 @@ std::vector<std::string> distinctBundleIDs(const std::vector<SavedLayout::Window
 }
 
 // The running application, launched first when the user allows it.
-std::optional<RunningApplication> applicationFor(const std::string& bundleID, bool launchApps) {
+std::optional<RunningApplication> applicationFor(const std::string& bundleID,
+                                                 const RestoreRequest& request) {
     auto app = WindowMover::running(bundleID);
-    if (!app && launchApps) app = WindowMover::launch(bundleID);
-    if (!app) Log::info("layouts: " + bundleID + " is not running, its windows are skipped");
+    if (!app && request.launchApps) app = WindowMover::launch(bundleID);
+    if (!app && request.logs) {
+        Log::info("layouts: " + bundleID + " is not running, its windows are skipped");
+    }
     return app;
 }
 
 // The windows of the layout's applications, minimized ones included, application by
 // application in the layout's order.
-std::vector<OpenWindow> openWindows(const std::vector<SavedLayout::Window>& saved,
-                                    bool launchApps) {
+std::vector<OpenWindow> openWindows(const RestoreRequest& request) {
     std::vector<OpenWindow> open;
-    for (const std::string& bundleID : distinctBundleIDs(saved)) {
-        const auto app = applicationFor(bundleID, launchApps);
+    for (const std::string& bundleID : distinctBundleIDs(request.layout.windows)) {
+        const auto app = applicationFor(bundleID, request);
         if (!app) continue;
         if (app->hidden) platform().workspace.unhide(app->pid);
         std::vector<OpenWindow> more = WindowMover::windows(*app, true);
@@ -120,27 +122,36 @@ bool holdsFinderFolder(const std::vector<SavedLayout::Window>& saved) {
 
 // The new window of a saved window's file, opened again because its window has gone; none
 // when it showed no file, its application may not be launched, or the file is gone (counted).
-std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, bool launchApps, int& gone) {
+std::optional<OpenWindow> reopen(const SavedLayout::Window& saved, const RestoreRequest& request,
+                                 int& gone) {
     if (!saved.document) return std::nullopt;
-    if (!launchApps && !WindowMover::running(saved.bundleID)) return std::nullopt;
-    DocumentOpener::Opened opened = DocumentOpener::open(saved.bundleID, *saved.document);
+    if (!request.launchApps && !WindowMover::running(saved.bundleID)) return std::nullopt;
+    DocumentOpener::Opened opened =
+        DocumentOpener::open(saved.bundleID, *saved.document, request.logs);
     if (opened.gone) ++gone;
     return std::move(opened.window);
 }
 
-// Records one arranged window; none when its application no longer runs or has no bundle
-// identifier, as such a window could never be paired again.
-std::optional<SavedLayout::Window> record(const LayoutActions::Placement& placement,
-                                          const ScreenInfo& screen) {
-    const auto owner = platform().workspace.application(placement.ref.pid);
-    if (!owner || !owner->bundleIdentifier) return std::nullopt;
-    return SavedLayout::Window{
-        *owner->bundleIdentifier,
-        owner->localizedName.value_or(std::string()),
-        AX::string(placement.ref.element, WindowAttribute::title).value_or(std::string()),
-        placement.rect,
-        displayOf(screen),
-        WindowMover::documentOf(placement.ref.element)};
+// Where a window goes in a layout: its slot on a screen.
+struct Slot {
+    UnitRect rect;
+    ScreenInfo screen;
+};
+
+// The windows as a layout saves them, each with the file it shows and a Finder window with
+// the folder it shows (Finder asked once for them all), in the slot `slotOf` gives it; a
+// window it gives none is left out.
+template <typename SlotOf>
+std::vector<SavedLayout::Window> saved(std::vector<OpenWindow> windows, SlotOf slotOf) {
+    FinderFolders::fill(windows);
+    std::vector<SavedLayout::Window> saved;
+    for (const OpenWindow& window : windows) {
+        const std::optional<Slot> slot = slotOf(window);
+        if (!slot) continue;
+        saved.push_back({window.bundleID, window.app, window.title, slot->rect,
+                         displayOf(slot->screen), window.document});
+    }
+    return saved;
 }
 
 // Keeps how a window is before it moves.
@@ -163,30 +174,26 @@ std::optional<SavedLayout> layoutOf(std::vector<SavedLayout::Window> windows,
 }
 
 std::optional<SavedLayout> capture(const std::vector<ScreenInfo>& screens, double gap) {
-    std::vector<OpenWindow> visible = WindowMover::visibleWindows();
-    FinderFolders::fill(visible);
-    std::vector<SavedLayout::Window> captured;
-    for (const OpenWindow& window : visible) {
+    const auto slotOf = [&screens, gap](const OpenWindow& window) -> std::optional<Slot> {
         const auto screen = Screens::holding(window.frame, screens);
-        if (!screen) continue;
-        captured.push_back({window.bundleID, window.app, window.title,
-                            capturedRect(window.frame, screen->visible, gap), displayOf(*screen),
-                            window.document});
-    }
-    return layoutOf(std::move(captured), screens);
+        if (!screen) return std::nullopt;
+        return Slot{capturedRect(window.frame, screen->visible, gap), *screen};
+    };
+    return layoutOf(saved(WindowMover::visibleWindows(), slotOf), screens);
 }
 
 LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
     const std::vector<SavedLayout::Window>& saved = request.layout.windows;
-    std::vector<OpenWindow> open = openWindows(saved, request.launchApps);
+    std::vector<OpenWindow> open = openWindows(request);
     if (holdsFinderFolder(saved)) FinderFolders::fill(open);
     const auto pairing = LayoutMatch::pair(saved, matchKeys(open));
     LayoutActions::Restored restored;
+    restored.windows = saved.size();
     for (std::size_t i = 0; i < saved.size() && i < pairing.size(); ++i) {
         const ScreenInfo* screen = targetScreen(saved[i].display, request.screens);
         if (screen == nullptr) continue;
         std::optional<OpenWindow> reopened;
-        if (!pairing[i]) reopened = reopen(saved[i], request.launchApps, restored.documentsGone);
+        if (!pairing[i]) reopened = reopen(saved[i], request, restored.documentsGone);
         if (!pairing[i] && !reopened) continue;
         const OpenWindow& partner = reopened ? *reopened : open[*pairing[i]];
         remember(before, partner.ref);
@@ -194,17 +201,18 @@ LayoutActions::Restored restore(const RestoreRequest& request, Before& before) {
             restored.moved.push_back(partner.ref);
         }
     }
-    std::string line = "layouts: restored \"" + request.layout.name + "\", " +
-                       std::to_string(restored.moved.size()) + " of " +
-                       std::to_string(saved.size()) + " windows";
-    if (restored.documentsGone > 0) line += ", " + restored.goneMessage();
-    Log::info(line);
+    if (request.logs) {
+        Log::info("layouts: restored \"" + request.layout.name + "\", " + restored.counts());
+    }
     return restored;
 }
 
 Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const ScreenInfo& screen,
                  double gap, Before& before) {
     Arranged arranged;
+    // A window whose application no longer runs or has no bundle identifier is placed but not
+    // recorded: it could never be paired again.
+    std::vector<OpenWindow> recorded;
     for (const LayoutActions::Placement& placement : placements) {
         const WindowRef& ref = placement.ref;
         if (WindowMover::isFullScreen(ref.element)) continue;
@@ -213,8 +221,15 @@ Arranged arrange(const std::vector<LayoutActions::Placement>& placements, const 
                                   placement.rect.frame(screen.visible, gap))) {
             arranged.moved.push_back(ref);
         }
-        if (auto window = record(placement, screen)) arranged.windows.push_back(std::move(*window));
+        if (auto window = WindowMover::window(ref)) recorded.push_back(std::move(*window));
     }
+    const auto slotOf = [&placements, &screen](const OpenWindow& window) -> std::optional<Slot> {
+        const auto placed =
+            std::ranges::find(placements, window.ref, &LayoutActions::Placement::ref);
+        if (placed == placements.end()) return std::nullopt;
+        return Slot{placed->rect, screen};
+    };
+    arranged.windows = saved(std::move(recorded), slotOf);
     Log::info("layouts: arranged " + std::to_string(arranged.windows.size()) + " windows");
     return arranged;
 }

@@ -26,6 +26,7 @@ struct RestoreRequest {
     std::vector<ScreenInfo> screens;
     double gap = 0;
     bool launchApps = true;
+    bool logs = true;
 };
 
 // The windows an arrangement recorded, and those of them that took their frames.

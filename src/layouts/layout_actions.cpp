@@ -65,6 +65,18 @@ std::string LayoutActions::Restored::goneMessage() const {
     return std::to_string(documentsGone) + " documents no longer exist";
 }
 
+std::string LayoutActions::Restored::counts() const {
+    std::string text = std::to_string(moved.size()) + " of " + std::to_string(windows) + " windows";
+    if (documentsGone > 0) text += ", " + goneMessage();
+    return text;
+}
+
+std::optional<std::string> LayoutActions::Restored::message() const {
+    if (documentsGone > 0) return goneMessage();
+    if (moved.empty()) return "None of its windows are open";
+    return std::nullopt;
+}
+
 double LayoutActions::gap() {
     const double gap = Settings::shared().layoutsGap();
     // A stored NaN passes the clamp unchanged and would make every frame unwritable.
@@ -84,7 +96,7 @@ void LayoutActions::restore(const SavedLayout& layout, RestoreDone done) {
 void LayoutActions::restore(const SavedLayout& layout, RestoreOptions options, RestoreDone done) {
     LayoutActionSteps::RestoreRequest request{
         layout, Screens::snapshot(), gap(),
-        options.mayLaunch.value_or(Settings::shared().layoutsLaunchApps())};
+        options.mayLaunch.value_or(Settings::shared().layoutsLaunchApps()), options.logs};
     work([request = std::move(request), raises = options.raises, done = std::move(done)] {
         LayoutActionSteps::Before before;
         Restored restored = LayoutActionSteps::restore(request, before);

@@ -35,21 +35,29 @@ struct LayoutActions {
     };
 
     // How a restore goes: whether it may open applications that are not running (as
-    // "layouts.launchApps" says, when not given), and whether it closes Mission Control and
-    // raises the windows it placed.
+    // "layouts.launchApps" says, when not given), whether it closes Mission Control and
+    // raises the windows it placed, and whether it writes its own lines to the log (a caller
+    // that tells of the whole restore in one line of its own turns them off).
     struct RestoreOptions {
         std::optional<bool> mayLaunch;
         bool raises = true;
+        bool logs = true;
     };
 
-    // What a restore did: the windows it moved, in the layout's order, and how many of the
-    // layout's windows showed files that no longer exist.
+    // What a restore did: the windows it moved, in the layout's order, how many windows the
+    // layout has, and how many of them showed files that no longer exist.
     struct Restored {
         std::vector<WindowRef> moved;
+        std::size_t windows = 0;
         int documentsGone = 0;
 
         // "1 document no longer exists", "2 documents no longer exist".
         std::string goneMessage() const;
+        // What it did, for the log: "1 of 2 windows", then the files gone when any were.
+        std::string counts() const;
+        // What the user is told once it is done, when anything: the files that no longer
+        // exist, else that none of the layout's windows are open.
+        std::optional<std::string> message() const;
     };
 
     using CaptureDone = std::function<void(std::optional<SavedLayout>)>;

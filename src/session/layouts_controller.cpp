@@ -309,14 +309,8 @@ void LayoutsController::restoreLayout(std::size_t index) {
     LayoutActions::restore(layout, [alive = alive()](const LayoutActions::Restored& restored) {
         auto self = alive.lock();
         if (!self) return;
-        if (restored.documentsGone > 0) (*self)->toastMessage(restored.goneMessage(), std::nullopt);
-        if (restored.moved.empty()) {
-            if (restored.documentsGone == 0) {
-                (*self)->toastMessage("None of its windows are open", std::nullopt);
-            }
-            return;
-        }
-        (*self)->windowsMoved();
+        if (const auto message = restored.message()) (*self)->toastMessage(*message, std::nullopt);
+        if (!restored.moved.empty()) (*self)->windowsMoved();
     });
 }
 

@@ -25,12 +25,15 @@ std::optional<OpenWindow> windowShowing(const std::string& bundleID, const std::
 }  // namespace
 
 DocumentOpener::Opened DocumentOpener::open(const std::string& bundleID,
-                                            const std::string& document) {
+                                            const std::string& document, bool logs) {
     Platform& p = platform();
+    const std::string name = FileURL::name(document);
+    const auto say = [logs](const std::string& what) {
+        if (logs) Log::info("layouts: " + what);
+    };
     const std::optional<std::string> path = FileURL::path(document);
     if (!path || !p.files.exists(*path)) {
-        Log::info("layouts: " + FileURL::name(document) +
-                  " no longer exists, its window is skipped");
+        say(name + " no longer exists, its window is skipped");
         return {std::nullopt, true};
     }
     const auto application = p.workspace.applicationURL(bundleID);
@@ -41,12 +44,12 @@ DocumentOpener::Opened DocumentOpener::open(const std::string& bundleID,
     p.workspace.openDocument(document, *application, background, WindowMover::launchTimeout);
     for (int poll = 0; poll < WindowMover::launchPolls; ++poll) {
         if (auto window = windowShowing(bundleID, document)) {
-            Log::info("layouts: opened " + FileURL::name(document) + " to restore a layout");
+            say("opened " + name + " to restore a layout");
             return {std::move(window)};
         }
         p.clock.sleep(WindowMover::launchPollInterval);
     }
-    Log::info("layouts: " + FileURL::name(document) + " opened no window in time");
+    say(name + " opened no window in time");
     return {};
 }
 

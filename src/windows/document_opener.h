@@ -18,8 +18,9 @@ struct DocumentOpener {
 
     // The window showing the file; `gone` when there is no such file; neither when the
     // application is not installed, would not open it, or showed no window of it in time.
-    // Blocks for up to the launch's time-out and polls; layouts queue only.
-    static Opened open(const std::string& bundleID, const std::string& document);
+    // Says in the log what became of the file, unless `logs` is false. Blocks for up to the
+    // launch's time-out and polls; layouts queue only.
+    static Opened open(const std::string& bundleID, const std::string& document, bool logs = true);
 };
 
 }  // namespace vistrel

@@ -53,6 +53,21 @@ std::size_t rank(const OpenWindow& window, const std::vector<ZOrderEntry>& order
     return unranked;
 }
 
+bool isMinimized(const AXElement& window) {
+    return AX::value<bool>(window, AX::minimized).value_or(false);
+}
+
+OpenWindow described(const AXElement& window, const RunningApplication& app, Rect frame,
+                     bool minimized) {
+    return OpenWindow{{window, app.pid},
+                      app.bundleIdentifier.value_or(std::string()),
+                      app.localizedName.value_or(std::string()),
+                      AX::string(window, WindowAttribute::title).value_or(std::string()),
+                      frame,
+                      minimized,
+                      WindowMover::documentOf(window)};
+}
+
 std::optional<OpenWindow> describe(const AXElement& window, const RunningApplication& app,
                                    bool includeMinimized) {
     if (AX::string(window, WindowAttribute::subrole) != WindowAttribute::standardWindow) {
@@ -60,15 +75,9 @@ std::optional<OpenWindow> describe(const AXElement& window, const RunningApplica
     }
     const auto frame = WindowMover::frame(window);
     if (!frame || !isListable(*frame)) return std::nullopt;
-    const bool minimized = AX::value<bool>(window, AX::minimized).value_or(false);
+    const bool minimized = isMinimized(window);
     if (minimized && !includeMinimized) return std::nullopt;
-    return OpenWindow{{window, app.pid},
-                      app.bundleIdentifier.value_or(std::string()),
-                      app.localizedName.value_or(std::string()),
-                      AX::string(window, WindowAttribute::title).value_or(std::string()),
-                      *frame,
-                      minimized,
-                      WindowMover::documentOf(window)};
+    return described(window, app, *frame, minimized);
 }
 
 bool isFinite(const Rect& rect) {
@@ -83,6 +92,13 @@ std::optional<std::string> WindowMover::documentOf(const AXElement& window) {
     std::optional<std::string> document = AX::string(window, WindowAttribute::document);
     if (document && !FileURL::path(*document)) return std::nullopt;
     return document;
+}
+
+std::optional<OpenWindow> WindowMover::window(const WindowRef& window) {
+    const auto app = platform().workspace.application(window.pid);
+    if (!app || !app->bundleIdentifier) return std::nullopt;
+    return described(window.element, *app, frame(window.element).value_or(Rect{}),
+                     isMinimized(window.element));
 }
 
 std::shared_ptr<SerialQueue> WindowMover::queue() {

@@ -51,6 +51,9 @@ struct WindowMover {
     // The visible, unminimized standard windows of ordinary applications other than the
     // agent, front-most first.
     static std::vector<OpenWindow> visibleWindows();
+    // One window as the lists give it, whatever its kind and size (its frame empty when it
+    // cannot be read); none when its application no longer runs or has no bundle identifier.
+    static std::optional<OpenWindow> window(const WindowRef& window);
     // The standard windows of one application, in the application's own order.
     static std::vector<OpenWindow> windows(const RunningApplication& app, bool includeMinimized);
     // The window server's on-screen windows of the normal layer, front to back.

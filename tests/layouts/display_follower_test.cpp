@@ -155,8 +155,28 @@ TEST_P(FollowDisplaysTest, AutomaticRestoresAtOnceWithoutLaunchingAnything) {
     EXPECT_EQ(window("Notes").frame, studioLeft);
     EXPECT_TRUE(desktop.workspace().launchRequests.empty());
     EXPECT_EQ(offered(), std::nullopt);
-    EXPECT_EQ(logged("layouts: the displays changed; restoring \"Desk\" for these displays"), 1u);
     EXPECT_TRUE(LayoutUndo::shared().available());
+}
+
+TEST_P(FollowDisplaysTest, AnAutomaticRestoreWritesOneLogLineSayingWhatItDid) {
+    setFollow(FollowDisplays::automatic);
+    plug(studio, studioSize);
+    const std::string display = Screens::snapshot().back().id;
+    save("Desk",
+         {{"com.apple.Notes", "Notes", "Notes", leftHalf, display},
+          {"com.apple.Notes", "Notes", "Gone.txt", rightHalf, display, "file:///nowhere/Gone.txt"},
+          {"com.apple.Terminal", "Terminal", "Terminal", rightHalf, display}});
+    unplug(studio);
+    quit("com.apple.Terminal");
+    const std::size_t linesBefore = log().size();
+
+    plug(studio, studioSize);
+
+    const std::vector<std::string> lines = log();
+    EXPECT_EQ(std::vector<std::string>(lines.begin() + static_cast<long>(linesBefore), lines.end()),
+              std::vector<std::string>{"layouts: the displays changed; restored \"Desk\" for "
+                                       "these displays, 1 of 3 windows, 1 document no longer "
+                                       "exists"});
 }
 
 TEST_P(FollowDisplaysTest, AnAutomaticRestoreIsUndoneLikeAnyOther) {

@@ -9,6 +9,7 @@
 #include "base/file_url.h"
 #include "layout_actions_test.h"
 #include "support/temp_dir.h"
+#include "windows/screens.h"
 
 namespace vistrel::testing {
 namespace {
@@ -116,6 +117,24 @@ TEST_F(LayoutDocumentsTest, AFinderFolderIsSavedWithTheWindow) {
     const auto found = std::ranges::find(layout->windows, std::string("src"), &Window::title);
     ASSERT_NE(found, layout->windows.end());
     EXPECT_EQ(found->document, src);
+}
+
+TEST_F(LayoutDocumentsTest, AComposedLayoutSavesTheFinderFolderAndTheDocumentOfItsWindows) {
+    const std::string src = subfolder("a/src");
+    const std::string notes = file("notes.txt");
+    open(pidOf(finderBundle), "src", src, {100, 100, 500, 400});
+    open(editor_, "notes.txt", notes, {300, 300, 500, 400});
+    std::optional<SavedLayout> layout;
+
+    LayoutActions::arrange({{ref("src"), quadrants[0]}, {ref("notes.txt"), quadrants[1]}},
+                           Screens::snapshot().front(),
+                           [&](std::optional<SavedLayout> arranged) { layout = arranged; });
+    run();
+
+    ASSERT_TRUE(layout);
+    ASSERT_EQ(layout->windows.size(), 2u);
+    EXPECT_EQ(layout->windows[0].document, src);
+    EXPECT_EQ(layout->windows[1].document, notes);
 }
 
 TEST_F(LayoutDocumentsTest, AClosedDocumentWindowIsOpenedAgainOnItsFileAndPlaced) {

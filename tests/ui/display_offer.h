@@ -6,7 +6,10 @@
 #include "layouts/display_match.h"
 #include "layouts/layout_store.h"
 #include "platform/sim/sim_desktop.h"
+#include "platform/sim/sim_scene.h"
+#include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "status_menu_fixture.h"
 #include "windows/screens.h"
 
 namespace vistrel::testing {
@@ -42,6 +45,20 @@ class DeskComeback {
 
   private:
     SimDesktop& desktop_;
+};
+
+// The status menu on the default scene with layouts on, the follower watching the displays.
+class FollowingStatusMenuTest : public StatusMenuTest {
+  protected:
+    void SetUp() override {
+        populateDefaultScene(desktop);
+        Shared::store()->set(std::string(PreferenceKey::layoutsEnabled), true);
+        StatusMenuTest::SetUp();
+        DisplayFollower::shared().start();
+    }
+    void TearDown() override { DisplayFollower::shared().stop(); }
+
+    DeskComeback desk{desktop};
 };
 
 }  // namespace vistrel::testing

@@ -13,23 +13,14 @@ namespace {
 
 constexpr const char* offerRow = "Restore \"Desk\" for these displays";
 
-class DisplayOfferRowTest : public StatusMenuTest {
+class DisplayOfferRowTest : public FollowingStatusMenuTest {
   protected:
-    void SetUp() override {
-        populateDefaultScene(desktop);
-        Shared::store()->set(std::string(PreferenceKey::layoutsEnabled), true);
-        StatusMenuTest::SetUp();
-        DisplayFollower::shared().start();
-    }
-    void TearDown() override { DisplayFollower::shared().stop(); }
-
     void comeBackToTheDesk() { desk.play("Desk"); }
     template <typename Change>
     void change(Change change) {
         desk.change(change);
     }
 
-    DeskComeback desk{desktop};
     // Whether the status item's mark carries its dot: a second shape beside the mark.
     bool dotted() { return item().image()->all<DisplayList::Fill>().size() == 2; }
     const SimWindow& notes() {

@@ -8,6 +8,7 @@
 #include "settings/shared.h"
 #include "ui/kit/dfkit_icon_button.h"
 #include "ui/kit/dfkit_menu_item.h"
+#include "windows/screens.h"
 
 namespace vistrel {
 
@@ -17,6 +18,8 @@ constexpr std::uint64_t deviceIndependentFlags = 0xFFFF0000;
 constexpr std::uint64_t commandFlag = 0x100000;
 constexpr const char* accessibilityLabel = "Vistrel";
 constexpr const char* hideToolTip = "Open Vistrel again from Applications to bring it back.";
+// How far up the primary display's visible frame a message after a restore stands.
+constexpr double toastRise = 0.2;
 
 MenuItemState loginItemState(LoginItemStatus status) {
     switch (status) {
@@ -134,6 +137,20 @@ std::function<void()> StatusMenuController::rowAction(
         if (!self) return;
         if (self->panel_) self->panel_->close();
         body(*self);
+    };
+}
+
+LayoutActions::RestoreDone StatusMenuController::toldWhenRestored() {
+    std::weak_ptr<StatusMenuController> weak = weak_from_this();
+    return [weak](const LayoutActions::Restored& restored) {
+        auto self = weak.lock();
+        const std::optional<std::string> message = restored.message();
+        const std::vector<ScreenInfo> screens = Screens::snapshot();
+        if (!self || !message || screens.empty()) return;
+        // Low on the primary display, where the system shows its own confirmations.
+        const Rect visible = screens.front().visible;
+        const Point at{visible.midX(), visible.maxY() - visible.height * toastRise};
+        self->toast_.flash(*message, std::nullopt, at, toastSeconds);
     };
 }
 

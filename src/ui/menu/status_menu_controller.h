@@ -6,12 +6,14 @@
 #include <optional>
 #include <vector>
 
+#include "layouts/layout_actions.h"
 #include "platform/event_monitors.h"
 #include "platform/native_menu.h"
 #include "platform/status_bar.h"
 #include "ui/kit/dfkit_fonts.h"
 #include "ui/kit/dfkit_mark.h"
 #include "ui/kit/dfkit_status_panel.h"
+#include "views/hud_controller.h"
 
 namespace vistrel {
 
@@ -35,6 +37,8 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     static constexpr double reopenGuard = 0.25;
     static constexpr std::size_t maxLayoutRows = 9;
     static constexpr double markSize = 16;
+    // How long a message after a restore from the panel stays on the screen.
+    static constexpr double toastSeconds = 2;
 
     // Creates the status item: the mark as a template image, the label "Vistrel", the click
     // action, and the visibility the preferences ask for. The kit's fonts are registered
@@ -65,6 +69,8 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     StatusItem* item() const { return item_.get(); }
     DFKitStatusPanel* panel() const { return panel_.get(); }
     const DFKitApp& app() const { return app_; }
+    // The message a restore from the panel leaves on the screen.
+    const HUDController& toast() const { return toast_; }
 
   private:
     StatusMenuController() = default;
@@ -86,6 +92,9 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     DFKitViews bottomRows();
     // A row's action: closes the panel, then acts, if the controller still exists.
     std::function<void()> rowAction(std::function<void(StatusMenuController&)> body);
+    // The completion of a restore from the panel: tells the user in a message on the main
+    // screen what went wrong, if anything did, as a restore in Mission Control does.
+    LayoutActions::RestoreDone toldWhenRestored();
 
     std::unique_ptr<StatusItem> item_;
     DFKitApp app_{"Vistrel", DFKitMark::vistrel};
@@ -94,6 +103,7 @@ class StatusMenuController : public std::enable_shared_from_this<StatusMenuContr
     DFKitFonts* fonts_ = nullptr;
     // The header's "More options" button of the rows shown, where its menu opens.
     DFKitIconButton* moreButton_ = nullptr;
+    HUDController toast_;
 };
 
 }  // namespace vistrel

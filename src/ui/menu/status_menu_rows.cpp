@@ -69,7 +69,9 @@ DFKitViews StatusMenuController::offerRows() {
     if (!offer) return rows;
     auto row = std::make_unique<DFKitMenuRow>(
         DFKitGlyph::display, "Restore \"" + offer->name + "\" for these displays", std::nullopt,
-        rowAction([](StatusMenuController&) { DisplayFollower::shared().acceptOffer(); }));
+        rowAction([](StatusMenuController& self) {
+            DisplayFollower::shared().acceptOffer(self.toldWhenRestored());
+        }));
     // The user decides on it by its name: it is never cut short.
     row->setWraps(true);
     rows.push_back(std::move(row));
@@ -162,9 +164,9 @@ DFKitViews StatusMenuController::layoutRows() {
         const SavedLayout& layout = layouts[i];
         append<DFKitMenuRow>(
             saved, DFKitGlyph::apps, layout.name, std::nullopt,
-            rowAction([layout](StatusMenuController&) {
+            rowAction([layout](StatusMenuController& self) {
                 Log::info("layouts: restoring \"" + layout.name + "\" from the menu");
-                LayoutActions::restore(layout, [](const LayoutActions::Restored&) {});
+                LayoutActions::restore(layout, self.toldWhenRestored());
             }));
     }
     if (!saved.empty()) append<DFKitScrollView>(rows, std::move(saved));
