@@ -171,13 +171,6 @@ TEST_F(EngineTest, ShortcutWithNothingHoveredPasses) {
     EXPECT_TRUE(key(KeyCode::m, command));
 }
 
-TEST_F(EngineTest, RepeatedShortcutIsConsumedWithoutActing) {
-    openMissionControl();
-    move(inside(thumbOf("Notes")));
-    EXPECT_FALSE(key(KeyCode::w, command, true));
-    EXPECT_FALSE(desktop.window(windowTitled("Notes"))->closed);
-}
-
 TEST_F(EngineTest, WindowClosedBetweenHoverAndCommandWFailsWithOneLineAndNothingElse) {
     openMissionControl();
     move(inside(thumbOf("Notes")));

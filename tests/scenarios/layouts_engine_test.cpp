@@ -62,8 +62,10 @@ TEST_F(LayoutsEngineTest, TheShelfTakesThePointerAndTheStripGoes) {
 TEST_F(LayoutsEngineTest, HoldingOptionMarksTheShelfForDeleting) {
     openMissionControl();
     desktop.eventTap().deliver(SimInput::flagsChanged(ModifierFlag::option));
+    settle();
     EXPECT_TRUE(layouts().shelf().view().state().optionHeld);
     desktop.eventTap().deliver(SimInput::flagsChanged(0));
+    settle();
     EXPECT_FALSE(layouts().optionHeld());
 }
 
