@@ -56,9 +56,11 @@ Engine::Engine(Private, std::unique_ptr<EngineLayouts> layouts)
       grant_(axQueue_),
       hitTest_(std::make_shared<HitTest>()),
       targets_(std::make_shared<ThumbnailTargets>()),
-      moves_([this](Point point, bool dragged) {
-          dragged ? pointerDragged(point) : pointerMoved(point);
-      }) {
+      moves_(
+          {.moved = [this](Point point,
+                           bool dragged) { dragged ? pointerDragged(point) : pointerMoved(point); },
+           .released = [this](Point point) { layouts_->mouseUp(point); },
+           .flagsChanged = [this](std::uint64_t flags) { modifiersChanged(flags); }}) {
     hitTest_->targets = targets_;
 }
 
@@ -333,12 +335,14 @@ bool Engine::tapMouseDown(Point point, std::uint64_t flags) {
 }
 
 void Engine::tapMouseUp(Point point) {
-    moves_.flush();
-    layouts_->mouseUp(point);
+    moves_.postRelease(point);
 }
 
 void Engine::tapFlagsChanged(std::uint64_t flags) {
-    moves_.flush();
+    moves_.postFlags(flags);
+}
+
+void Engine::modifiersChanged(std::uint64_t flags) {
     const bool held = (flags & ModifierFlag::option) != 0;
     if (held != layouts_->optionHeld()) layouts_->setOptionHeld(held);
 }

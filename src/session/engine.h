@@ -58,7 +58,7 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     void tapMouseDragged(Point point) override;
     bool tapMouseDown(Point point, std::uint64_t flags) override;
     void tapMouseUp(Point point) override;
-    bool tapKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) override;
+    bool tapKeyDown(std::int64_t code, std::uint64_t flags) override;
     void tapFlagsChanged(std::uint64_t flags) override;
 
     // What the engine holds now, for the status panel and for tests.
@@ -92,11 +92,13 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     // A pointer move on its turn of the main queue, after the tap's callback returned.
     void pointerMoved(Point point);
     void pointerDragged(Point point);
+    // Option held marks the shelf for deleting.
+    void modifiersChanged(std::uint64_t flags);
     void lookUp(Point point);
     void apply(const std::optional<Target>& candidate, Point point);
     std::optional<Rect> smallestThumbAt(Point point) const;
     bool insideStrip(Point point) const;
-    bool layoutsKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat);
+    bool layoutsKeyDown(std::int64_t code, std::uint64_t flags);
     void clearTarget();
     void afterAction();
     void windowsMoved();

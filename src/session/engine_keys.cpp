@@ -10,40 +10,37 @@ namespace vistrel {
 // The layouts' keys while the feature is open: Return and Escape while composing, Command-Z
 // while there is a change to undo, Command-1 to 9 for the saved layouts, and the snap keys on
 // the hovered window.
-bool Engine::layoutsKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) {
+bool Engine::layoutsKeyDown(std::int64_t code, std::uint64_t flags) {
     if (layouts_->isComposing() && code == KeyCode::returnKey) {
-        if (!isRepeat) layouts_->finishCompose();
+        layouts_->finishCompose();
         return true;
     }
     if (layouts_->isComposing() && code == KeyCode::escape) {
-        if (!isRepeat) layouts_->cancelCompose();
+        layouts_->cancelCompose();
         return true;
     }
     if (Snap::isUndo(code, flags) && layouts_->canUndo()) {
-        if (!isRepeat) layouts_->undo();
+        layouts_->undo();
         return true;
     }
     if (auto index = Snap::layoutIndex(code, flags);
         index && static_cast<std::size_t>(*index) < layouts_->savedCount()) {
-        if (!isRepeat) {
-            if (layouts_->isComposing()) layouts_->cancelCompose();
-            layouts_->restore(static_cast<std::size_t>(*index));
-        }
+        if (layouts_->isComposing()) layouts_->cancelCompose();
+        layouts_->restore(static_cast<std::size_t>(*index));
         return true;
     }
     if (auto key = Snap::match(code, flags); key && target_) {
-        if (!isRepeat) layouts_->snap(target_->window, target_->pid, *key);
+        layouts_->snap(target_->window, target_->pid, *key);
         return true;
     }
     return false;
 }
 
-bool Engine::tapKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) {
+bool Engine::tapKeyDown(std::int64_t code, std::uint64_t flags) {
     moves_.flush();
-    if (layouts_->isOpen() && layoutsKeyDown(code, flags, isRepeat)) return true;
+    if (layouts_->isOpen() && layoutsKeyDown(code, flags)) return true;
     const auto action = matchHotkey(code, flags);
     if (!action || Settings::shared().hotkeyDisabled(*action) || !target_) return false;
-    if (isRepeat) return true;
     WindowActions::perform(target_->window, target_->pid, *action);
     afterAction();
     return true;

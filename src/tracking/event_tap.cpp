@@ -130,7 +130,11 @@ bool EventTap::handleMouseUp(EventTapDelegate* target, const InputEvent& event) 
 }
 
 bool EventTap::handleKeyDown(EventTapDelegate* target, const InputEvent& event) {
-    const bool consumed = target->tapKeyDown(event.keyCode, event.flags, event.autorepeat);
+    // A repeat belongs to the press that began it: kept when that press ran an action (the
+    // application must not get the rest of a keystroke whose start it never saw), passed on
+    // untouched when the press went to the system.
+    if (event.autorepeat) return !swallowedKeys_.contains(event.keyCode);
+    const bool consumed = target->tapKeyDown(event.keyCode, event.flags);
     if (consumed) swallowedKeys_.insert(event.keyCode);
     return !consumed;
 }

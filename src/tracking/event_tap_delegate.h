@@ -19,7 +19,7 @@ class EventTapDelegate {
     // A release whose press was not consumed.
     virtual void tapMouseUp(Point location) = 0;
     // True when the key was consumed: it and its key-up are swallowed.
-    virtual bool tapKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) = 0;
+    virtual bool tapKeyDown(std::int64_t code, std::uint64_t flags) = 0;
     virtual void tapFlagsChanged(std::uint64_t flags) = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "base/log.h"
 #include "platform/platform.h"
@@ -16,17 +17,19 @@ Health& Health::shared() {
 
 Health::Problem Health::problem() const {
     if (!platform().accessibility.isProcessTrusted()) return Problem::notTrusted;
-    if (staleGrant_) return Problem::staleGrant;
+    if (staleGrant()) return Problem::staleGrant;
     if (selfCheck_.cannotRead()) return Problem::cannotReadMissionControl;
     if (tapUnsteady_) return Problem::tapUnsteady;
     return Problem::none;
 }
 
 void Health::setStaleGrant(bool stale) {
-    if (stale == staleGrant_) return;
-    staleGrant_ = stale;
-    stale ? Log::error(staleGrantLine) : Log::info(grantWorksLine);
-    // The Settings app shows the grant as the agent found it.
+    if (staleGrant_ == stale) return;
+    const bool wasStale = std::exchange(staleGrant_, stale).value_or(false);
+    if (stale != wasStale) stale ? Log::error(staleGrantLine) : Log::info(grantWorksLine);
+    // The Settings app shows the grant as the agent found it. The first finding of a run is
+    // published even when it is good: the store outlives the run, and a grant given again
+    // while the agent was not running must not go on reading as stale.
     if (auto store = Shared::store())
         store->set(std::string(PreferenceKey::agentAccessibilityStale), stale);
 }

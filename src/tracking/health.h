@@ -31,7 +31,7 @@ class Health {
     // The most pressing problem now; the grant itself is asked of the system.
     Problem problem() const;
 
-    bool staleGrant() const { return staleGrant_; }
+    bool staleGrant() const { return staleGrant_.value_or(false); }
     // Records what the last real read under the grant showed; logs and publishes a change.
     void setStaleGrant(bool stale);
 
@@ -49,7 +49,8 @@ class Health {
     void setCaptureWaiting(bool waiting) { captureWaiting_ = waiting; }
 
   private:
-    bool staleGrant_ = false;
+    // Nothing until the first real read of this run.
+    std::optional<bool> staleGrant_;
     bool captureWaiting_ = false;
     SelfCheck selfCheck_;
     bool tapUnsteady_ = false;

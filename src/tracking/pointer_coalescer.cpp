@@ -7,29 +7,57 @@
 
 namespace vistrel {
 
-struct PointerCoalescer::State {
-    Deliver deliver;
-    std::optional<Point> point;
+namespace {
+
+struct Move {
+    Point point;
     bool dragged = false;
-    bool turnAsked = false;
 };
 
-PointerCoalescer::PointerCoalescer(Deliver deliver) : state_(std::make_shared<State>()) {
-    state_->deliver = std::move(deliver);
+}  // namespace
+
+struct PointerCoalescer::State {
+    Handlers handlers;
+    // The newest move before a pending release, the release, and the newest move after it. A
+    // press flushes, so no second release can come before the turn.
+    std::optional<Move> before;
+    std::optional<Point> release;
+    std::optional<Move> after;
+    std::optional<std::uint64_t> flags;
+    bool turnAsked = false;
+    bool alive = true;
+};
+
+PointerCoalescer::PointerCoalescer(Handlers handlers) : state_(std::make_shared<State>()) {
+    state_->handlers = std::move(handlers);
 }
 
 PointerCoalescer::~PointerCoalescer() {
     if (!state_->turnAsked) return;
     // The turn already queued refers to the state: it finds nothing to deliver, and the
     // state goes with the task queued after it.
-    state_->deliver = nullptr;
+    state_->alive = false;
     platform().executor.main().async([state = std::move(state_)] {});
 }
 
 void PointerCoalescer::post(Point point, bool dragged) {
     State& state = *state_;
-    state.point = point;
-    state.dragged = dragged;
+    (state.release ? state.after : state.before) = Move{point, dragged};
+    askForTurn();
+}
+
+void PointerCoalescer::postRelease(Point point) {
+    state_->release = point;
+    askForTurn();
+}
+
+void PointerCoalescer::postFlags(std::uint64_t flags) {
+    state_->flags = flags;
+    askForTurn();
+}
+
+void PointerCoalescer::askForTurn() {
+    State& state = *state_;
     if (state.turnAsked) return;
     state.turnAsked = true;
     platform().executor.main().async([state = &state] { turn(*state); });
@@ -37,18 +65,28 @@ void PointerCoalescer::post(Point point, bool dragged) {
 
 void PointerCoalescer::turn(State& state) {
     state.turnAsked = false;
-    const auto point = std::exchange(state.point, std::nullopt);
-    if (point && state.deliver) state.deliver(*point, state.dragged);
+    deliverPending(state);
 }
 
+// Leaves the turn asked for as it is: a turn already queued still refers to the state.
 void PointerCoalescer::flush() {
-    State& state = *state_;
-    const auto point = std::exchange(state.point, std::nullopt);
-    if (point && state.deliver) state.deliver(*point, state.dragged);
+    deliverPending(*state_);
+}
+
+void PointerCoalescer::deliverPending(State& state) {
+    if (!state.alive) return;
+    const Handlers& handlers = state.handlers;
+    if (const auto move = std::exchange(state.before, std::nullopt))
+        handlers.moved(move->point, move->dragged);
+    if (const auto point = std::exchange(state.release, std::nullopt)) handlers.released(*point);
+    if (const auto move = std::exchange(state.after, std::nullopt))
+        handlers.moved(move->point, move->dragged);
+    if (const auto flags = std::exchange(state.flags, std::nullopt)) handlers.flagsChanged(*flags);
 }
 
 bool PointerCoalescer::pending() const {
-    return state_->point.has_value();
+    const State& state = *state_;
+    return state.before || state.release || state.after || state.flags;
 }
 
 }  // namespace vistrel

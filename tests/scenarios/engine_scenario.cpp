@@ -57,7 +57,8 @@ bool EngineScenario::release(Point point) {
 }
 
 // A key is kept from the system only for an action, and every action leaves a line in the
-// log: a first press kept without one would be a key swallowed for nothing.
+// log: a press kept without one would be a key swallowed for nothing. A repeat is kept only
+// with the press that began it, which had the action.
 bool EngineScenario::key(std::int64_t code, std::uint64_t flags, bool autorepeat) {
     const std::size_t before = desktop.systemLog().lines().size();
     const bool passed = desktop.eventTap().deliver(SimInput::keyDown(code, flags, autorepeat));

@@ -180,13 +180,6 @@ TEST_P(EngineTest, ShortcutWithNothingHoveredPasses) {
     EXPECT_TRUE(key(KeyCode::m, command));
 }
 
-TEST_P(EngineTest, RepeatedShortcutIsConsumedWithoutActing) {
-    openMissionControl();
-    move(inside(thumbOf("Notes")));
-    EXPECT_FALSE(key(KeyCode::w, command, true));
-    EXPECT_FALSE(desktop.window(windowTitled("Notes"))->closed);
-}
-
 TEST_P(EngineTest, WindowClosedBetweenHoverAndCommandWFailsWithOneLineAndNothingElse) {
     openMissionControl();
     move(inside(thumbOf("Notes")));

@@ -67,6 +67,25 @@ TEST_F(StaleGrantTest, TheGrantIsReadAgainOnlyWhenItChanges) {
     EXPECT_TRUE(Health::shared().staleGrant()) << "one read at start, none per tick";
 }
 
+void staleFromAnEarlierRun(SimDesktop& desktop) {
+    populateDefaultScene(desktop);
+    // The store outlives the agent: an earlier run found the grant stale, and the user gave it
+    // again while Vistrel was not running.
+    Shared::store()->set(std::string(PreferenceKey::agentAccessibilityStale), true);
+}
+
+class GrantGivenAgainWhileQuitTest : public EngineScenario {
+  protected:
+    GrantGivenAgainWhileQuitTest() : EngineScenario(staleFromAnEarlierRun) {}
+};
+
+TEST_F(GrantGivenAgainWhileQuitTest, AGrantFixedWhileVistrelWasNotRunningNoLongerReadsAsStale) {
+    settle();
+    EXPECT_FALSE(publishedStale()) << "the Settings app would still ask to grant it again";
+    EXPECT_FALSE(Health::shared().staleGrant());
+    EXPECT_EQ(logged(Health::grantWorksLine), 0u) << "nothing changed during this run";
+}
+
 class CannotCompleteGrantTest : public EngineScenario {
   protected:
     CannotCompleteGrantTest() : EngineScenario(staleAsCannotComplete) {}

@@ -64,8 +64,10 @@ TEST_P(LayoutsEngineTest, TheShelfTakesThePointerAndTheStripGoes) {
 TEST_P(LayoutsEngineTest, HoldingOptionMarksTheShelfForDeleting) {
     openMissionControl();
     desktop.eventTap().deliver(SimInput::flagsChanged(ModifierFlag::option));
+    settle();
     EXPECT_TRUE(layouts().shelf().view().state().optionHeld);
     desktop.eventTap().deliver(SimInput::flagsChanged(0));
+    settle();
     EXPECT_FALSE(layouts().optionHeld());
 }
 

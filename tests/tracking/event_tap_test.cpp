@@ -30,8 +30,8 @@ class RecordingDelegate : public EventTapDelegate {
         return consumeMouseDown;
     }
     void tapMouseUp(Point location) override { ups.push_back(location); }
-    bool tapKeyDown(std::int64_t code, std::uint64_t flags, bool isRepeat) override {
-        keys.push_back({code, flags, isRepeat});
+    bool tapKeyDown(std::int64_t code, std::uint64_t flags) override {
+        keys.push_back({code, flags});
         return consumeKeyDown;
     }
     void tapFlagsChanged(std::uint64_t flags) override { flagChanges.push_back(flags); }
@@ -39,7 +39,6 @@ class RecordingDelegate : public EventTapDelegate {
     struct Key {
         std::int64_t code;
         std::uint64_t flags;
-        bool isRepeat;
     };
     bool consumeMouseDown = false;
     bool consumeKeyDown = false;
@@ -150,16 +149,25 @@ TEST_F(EventTapTest, ConsumedCommandWSwallowsItsKeyUpAndALaterKeyUpPasses) {
     ASSERT_EQ(delegate->keys.size(), 1u);
     EXPECT_EQ(delegate->keys[0].code, KeyCode::w);
     EXPECT_EQ(delegate->keys[0].flags, ModifierFlag::command);
-    EXPECT_FALSE(delegate->keys[0].isRepeat);
 }
 
-TEST_F(EventTapTest, ConsumedAutoRepeatsAreClearedByTheOneKeyUp) {
+TEST_F(EventTapTest, TheRepeatsOfAKeptPressAreKeptWithoutActingAgainUntilItsKeyUp) {
     tap.start();
     delegate->consumeKeyDown = true;
     deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command));
     EXPECT_FALSE(deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command, true)));
-    EXPECT_TRUE(delegate->keys.back().isRepeat);
+    EXPECT_FALSE(deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command, true)));
+    EXPECT_EQ(delegate->keys.size(), 1u) << "a repeat is part of the press that acted";
     EXPECT_FALSE(deliver(SimInput::keyUp(KeyCode::w)));
+    EXPECT_TRUE(deliver(SimInput::keyUp(KeyCode::w)));
+}
+
+TEST_F(EventTapTest, TheRepeatsOfAPressThatWentOnGoOnUntouched) {
+    tap.start();
+    EXPECT_TRUE(deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command)));
+    delegate->consumeKeyDown = true;
+    EXPECT_TRUE(deliver(SimInput::keyDown(KeyCode::w, ModifierFlag::command, true)));
+    EXPECT_EQ(delegate->keys.size(), 1u) << "only the press is the delegate's to judge";
     EXPECT_TRUE(deliver(SimInput::keyUp(KeyCode::w)));
 }
 

@@ -54,8 +54,10 @@
 // Vistrel Settings: a regular application with a Dock icon while its window is open.
 int main() {
     @autoreleasepool {
-        static vistrel::MacPlatform machine;
-        vistrel::installPlatform(&machine.platform());
+        // Never destroyed: terminate: ends in exit(), which would run a static's destructor
+        // while the platform's queues may still call into it.
+        auto* machine = new vistrel::MacPlatform;
+        vistrel::installPlatform(&machine->platform());
         static VistrelSettingsAppDelegate* delegate = [[VistrelSettingsAppDelegate alloc] init];
         NSApplication* application = NSApplication.sharedApplication;
         application.delegate = delegate;
