@@ -31,9 +31,11 @@ json rectangle(Rect rect) {
 }
 
 // Walks one subtree, recording what identifies each element and where it is drawn.
+// Every element found is given its process's time-out before anything is asked of it, as the
+// readers do: the one set on the system-wide element would otherwise hold.
 class TreeWalk {
   public:
-    explicit TreeWalk(bool withTitles) : withTitles_(withTitles) {}
+    TreeWalk(bool withTitles, float timeout) : withTitles_(withTitles), timeout_(timeout) {}
 
     json node(const AXElement& element, int level) {
         json out = json::object();
@@ -47,7 +49,7 @@ class TreeWalk {
         if (auto window = WindowManagerThumbnails::windowOf(element)) out["wid"] = *window;
         json children = json::array();
         if (level < deepestLevel) {
-            for (const AXElement& child : AX::elements(element, "AXChildren")) {
+            for (const AXElement& child : AX::elements(element, "AXChildren", timeout_)) {
                 if (nodes_ >= mostNodes) break;
                 children.push_back(node(child, level + 1));
             }
@@ -104,6 +106,7 @@ class TreeWalk {
     }
 
     bool withTitles_;
+    float timeout_;
     std::size_t nodes_ = 0;
 };
 
@@ -118,9 +121,9 @@ json process(std::string_view bundleIdentifier, float timeout, bool withTitles) 
     ApplicationElement application(bundleIdentifier, timeout);
     const auto element = application.get();
     if (!element) return nullptr;
-    TreeWalk walk(withTitles);
+    TreeWalk walk(withTitles, timeout);
     json groups = json::array();
-    for (const AXElement& child : AX::elements(*element, "AXChildren")) {
+    for (const AXElement& child : AX::elements(*element, "AXChildren", timeout)) {
         if (isMissionControlGroup(child)) groups.push_back(walk.node(child, 1));
     }
     return {{"pid", application.pid()}, {"groups", std::move(groups)}};
