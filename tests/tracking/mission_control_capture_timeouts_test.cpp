@@ -3,7 +3,7 @@
 // every element without one of its own.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <set>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -19,25 +19,15 @@
 namespace vistrel {
 namespace {
 
-using TimedCall = SimAccessibility::TimedCall;
-
 class CaptureTimeoutsTest : public testing::SimTest {
   protected:
-    CaptureTimeoutsTest() {
-        populateDefaultScene(desktop);
-        AX::systemWide();  // the hit test's default is in force, as after the first hover
-        desktop.accessibility().recordTimeouts = true;
-    }
+    CaptureTimeoutsTest() { populateDefaultScene(desktop); }
 
-    // The time-outs of the calls that reached the process, none repeated.
-    std::vector<float> timeoutsOf(Pid pid) {
-        std::vector<float> seen;
-        for (const TimedCall& call : desktop.accessibility().timedCalls()) {
-            if (call.pid != pid) continue;
-            if (std::find(seen.begin(), seen.end(), call.timeout) == seen.end()) {
-                seen.push_back(call.timeout);
-            }
-        }
+    // The time-outs the calls that reached the process waited under.
+    std::set<float> timeoutsOf(Pid pid) {
+        std::set<float> seen;
+        for (const auto& call : desktop.accessibility().timedCalls())
+            if (call.pid == pid) seen.insert(call.timeout);
         return seen;
     }
 
@@ -54,9 +44,12 @@ class CaptureTimeoutsTest : public testing::SimTest {
         ax.applicationChildren[host].push_back(bar);
     }
 
-    // One capture of what is open; the hit tests answer nothing, so that only the walk and
-    // the readers ask the host.
+    // One capture of what is open, once the hit test's 0.2 s is every element's default (as
+    // after the first hover). The hit tests answer nothing, so that only the walk and the
+    // readers ask the host.
     nlohmann::json capture() {
+        AX::systemWide();
+        desktop.accessibility().recordTimeouts = true;
         desktop.accessibility().hitTestOverride = [](Point) -> std::optional<AXElement> {
             return std::nullopt;
         };
@@ -69,7 +62,7 @@ TEST_F(CaptureTimeoutsTest, EveryElementOfTheDocksTreeTheCaptureWalksWaitsAtMost
     addSpacesBar(desktop.dock().pid());
     const nlohmann::json written = capture();
     ASSERT_EQ(written["dock"]["groups"].size(), 2u);
-    EXPECT_EQ(timeoutsOf(desktop.dock().pid()), (std::vector<float>{ThumbnailReader::dockTimeout}));
+    EXPECT_EQ(timeoutsOf(desktop.dock().pid()), (std::set<float>{ThumbnailReader::dockTimeout}));
 }
 
 TEST_F(CaptureTimeoutsTest, EveryElementOfWindowManagersTreeTheCaptureWalksWaitsAtMostThreeTenths) {
@@ -79,8 +72,8 @@ TEST_F(CaptureTimeoutsTest, EveryElementOfWindowManagersTreeTheCaptureWalksWaits
     const nlohmann::json written = capture();
     ASSERT_EQ(written["windowManager"]["groups"].size(), 2u);
     EXPECT_EQ(timeoutsOf(desktop.dock().windowManagerPid()),
-              (std::vector<float>{WindowManagerThumbnails::timeout}));
-    EXPECT_EQ(timeoutsOf(desktop.dock().pid()), (std::vector<float>{ThumbnailReader::dockTimeout}));
+              (std::set<float>{WindowManagerThumbnails::timeout}));
+    EXPECT_EQ(timeoutsOf(desktop.dock().pid()), (std::set<float>{ThumbnailReader::dockTimeout}));
 }
 
 }  // namespace
