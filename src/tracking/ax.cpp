@@ -5,8 +5,6 @@
 
 #include "platform/platform.h"
 #include "settings/preference_key.h"
-#include "tracking/mission_control_host.h"
-#include "tracking/thumbnail_window.h"
 
 namespace vistrel::AX {
 
@@ -86,13 +84,6 @@ std::optional<AXElement> elementAt(Point point) {
         return std::nullopt;
     }
     return hit;
-}
-
-std::optional<WindowHit> windowAt(Point point) {
-    if (MissionControlHosts::running() == MissionControlHost::windowManager) {
-        return ThumbnailWindow::at(point);
-    }
-    return hitWindow(point);
 }
 
 std::optional<WindowHit> hitWindow(Point point) {

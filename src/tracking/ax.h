@@ -78,10 +78,6 @@ bool isSettable(const AXElement& element, std::string_view attribute);
 // The element the system-wide hit-test answers at a point; nothing on any error.
 std::optional<AXElement> elementAt(Point point);
 
-// The window under a point. Where Mission Control lives in the Dock: the hit element itself,
-// or the window it belongs to. Where it lives in WindowManager: the window the thumbnail
-// under the point names.
-std::optional<WindowHit> windowAt(Point point);
 // The window the system-wide hit-test answers at a point: the hit element when it is a
 // window, else the window it belongs to; nothing when it answers with an element of no
 // window (a Mission Control thumbnail button).

@@ -31,9 +31,11 @@ json rectangle(Rect rect) {
 }
 
 // Walks one subtree, recording what identifies each element and where it is drawn.
+// Every element found is given its process's time-out before anything is asked of it, as the
+// readers do: the one set on the system-wide element would otherwise hold.
 class TreeWalk {
   public:
-    explicit TreeWalk(bool withTitles) : withTitles_(withTitles) {}
+    TreeWalk(bool withTitles, float timeout) : withTitles_(withTitles), timeout_(timeout) {}
 
     json node(const AXElement& element, int level) {
         json out = json::object();
@@ -47,7 +49,7 @@ class TreeWalk {
         if (auto window = WindowManagerThumbnails::windowOf(element)) out["wid"] = *window;
         json children = json::array();
         if (level < deepestLevel) {
-            for (const AXElement& child : AX::elements(element, "AXChildren")) {
+            for (const AXElement& child : AX::elements(element, "AXChildren", timeout_)) {
                 if (nodes_ >= mostNodes) break;
                 children.push_back(node(child, level + 1));
             }
@@ -104,6 +106,7 @@ class TreeWalk {
     }
 
     bool withTitles_;
+    float timeout_;
     std::size_t nodes_ = 0;
 };
 
@@ -118,9 +121,9 @@ json process(std::string_view bundleIdentifier, float timeout, bool withTitles) 
     ApplicationElement application(bundleIdentifier, timeout);
     const auto element = application.get();
     if (!element) return nullptr;
-    TreeWalk walk(withTitles);
+    TreeWalk walk(withTitles, timeout);
     json groups = json::array();
-    for (const AXElement& child : AX::elements(*element, "AXChildren")) {
+    for (const AXElement& child : AX::elements(*element, "AXChildren", timeout)) {
         if (isMissionControlGroup(child)) groups.push_back(walk.node(child, 1));
     }
     return {{"pid", application.pid()}, {"groups", std::move(groups)}};
@@ -192,10 +195,10 @@ json windowList() {
     return windows;
 }
 
-Outcome write(const Request& request) {
+Outcome write(const Request& request, json screens) {
     std::ofstream file(request.path, std::ios::binary | std::ios::trunc);
     if (!file) return Outcome::notWritten;
-    file << snapshot(request.withTitles).dump(jsonIndent) << '\n';
+    file << snapshot(request.withTitles, std::move(screens)).dump(jsonIndent) << '\n';
     return file.good() ? Outcome::written : Outcome::notWritten;
 }
 
@@ -216,6 +219,17 @@ struct Wait {
 
 void step(std::shared_ptr<Wait> wait);
 
+// The screen list is read on the main thread; the file is written back on the capture's queue.
+void writeWithTheDisplays(std::shared_ptr<Wait> wait) {
+    platform().executor.main().async([wait = std::move(wait)]() mutable {
+        json screens = displays();
+        SerialQueue& queue = *wait->queue;
+        queue.async([wait = std::move(wait), screens = std::move(screens)] {
+            finish(wait->done, write(wait->request, screens));
+        });
+    });
+}
+
 void again(std::shared_ptr<Wait> wait, double seconds) {
     SerialQueue& queue = *wait->queue;
     queue.after(seconds, [wait = std::move(wait)]() mutable { step(std::move(wait)); });
@@ -235,7 +249,7 @@ void step(std::shared_ptr<Wait> wait) {
     }
     std::vector<Rect> frames = ThumbnailReader().frames();
     if (frames == *wait->lastFrames || --wait->settlesLeft <= 0) {
-        finish(wait->done, write(wait->request));
+        writeWithTheDisplays(std::move(wait));
         return;
     }
     wait->lastFrames = std::move(frames);
@@ -255,7 +269,23 @@ std::optional<Request> requested(const std::vector<std::string>& arguments) {
     return request;
 }
 
-json snapshot(bool withTitles) {
+json displays() {
+    json list = json::array();
+    for (const ScreenDescription& screen : platform().screens.screens()) {
+        json entry{{"frame", rectangle(screen.frame)},
+                   {"visibleFrame", rectangle(screen.visibleFrame)},
+                   {"scale", screen.backingScaleFactor}};
+        if (screen.displayID) {
+            entry["displayID"] = *screen.displayID;
+            if (auto uuid = platform().windowServer.displayUUID(*screen.displayID))
+                entry["uuid"] = *uuid;
+        }
+        list.push_back(std::move(entry));
+    }
+    return list;
+}
+
+json snapshot(bool withTitles, json screens) {
     const OperatingSystemVersion version = platform().systemInfo.operatingSystemVersion();
     const ThumbnailReader::Read read = ThumbnailReader().read();
     const MissionControlHost host = read.host.value_or(MissionControlHosts::forVersion(version));
@@ -264,6 +294,7 @@ json snapshot(bool withTitles) {
         {"missionControlHost",
          host == MissionControlHost::windowManager ? "WindowManager" : "Dock"},
         {"titles", withTitles},
+        {"displays", std::move(screens)},
         {"thumbnails", thumbnails(read, withTitles)},
         {"hitTests", hitTests(read, withTitles)},
         {"applications", applicationWindows(withTitles)},

@@ -14,12 +14,12 @@ namespace vistrel {
 // "--capture-mission-control FILE" (and "--with-titles" to keep titles), the agent waits up
 // to a minute for Mission Control to open and for its thumbnails to stop moving (two equal
 // reads a tenth of a second apart, a second at most), then writes one JSON file with the
-// system's version, the host whose tree held Mission Control, the Dock's and WindowManager's
-// accessibility subtrees under their Mission Control groups (display groups with their
-// identifiers), the thumbnails as the agent reads them, the hit-test's answer at each
-// thumbnail's centre, the regular applications' windows, and the on-screen window list (no
-// window names). The waiting runs as delayed work on a queue of its own, a bounded number
-// of times, so no thread blocks and no clock change stretches it.
+// system's version, the displays with their identifiers, the host whose tree held Mission
+// Control, the Dock's and WindowManager's accessibility subtrees under their Mission Control
+// groups (display groups with their identifiers), the thumbnails as the agent reads them, the
+// hit-test's answer at each thumbnail's centre, the regular applications' windows, and the
+// on-screen window list (no window names). The waiting runs as delayed work on a queue of its own,
+// a bounded number of times, so no thread blocks and no clock change stretches it.
 namespace MissionControlCapture {
 
 inline constexpr std::string_view flag = "--capture-mission-control";
@@ -45,8 +45,13 @@ enum class Outcome { written, neverOpened, notWritten, noFile, notTrusted };
 // The capture asked for on the command line, if any.
 std::optional<Request> requested(const std::vector<std::string>& arguments);
 
-// One look at Mission Control as it is now.
-nlohmann::json snapshot(bool withTitles);
+// The displays as the screen list tells them, primary first: each one's number
+// (NSScreenNumber) and UUID, and its frame and visible frame in AppKit's coordinates. Main
+// thread only, as the screen list is.
+nlohmann::json displays();
+
+// One look at Mission Control as it is now, with the displays read on the main thread.
+nlohmann::json snapshot(bool withTitles, nlohmann::json displays);
 
 // Waits for Mission Control, writes the file, and calls `done` on the main queue.
 void start(const Request& request, std::function<void(Outcome)> done);

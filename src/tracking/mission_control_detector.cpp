@@ -51,15 +51,24 @@ bool onboardingCompleted() {
 
 }  // namespace
 
+// Asked rarely (after Escape, by the capture tool), so the Dock is read whatever the window
+// list shows: a system that shows no layer-18 window may tell an older version than it runs.
 bool MissionControlDetector::isMissionControlOpen() {
     const bool listed = windowListShowsMissionControl();
-    if (!listed && !readsTheDockUnlisted()) return false;
     ApplicationElement dock(ThumbnailReader::dockBundleIdentifier, ThumbnailReader::dockTimeout);
     return dockAnswer(dock).value_or(listed);
 }
 
-bool MissionControlDetector::readsTheDockUnlisted() {
-    return MissionControlHosts::running() == MissionControlHost::windowManager;
+// The version only says which look comes first: macOS tells a program linked against an older
+// SDK an older version (26 told them 16), so a macOS 27 may call itself 16 and show no
+// layer-18 window. Until a layer-18 window has announced Mission Control once, every poll
+// also reads the Dock. That costs one AXChildren of the Dock's element and one AXIdentifier
+// per child (its bar, and "mc" while open): two or three messages to the Dock every half
+// second, tens of microseconds each on the detector's queue, beside the window list the poll
+// reads anyway; and on a system that announces Mission Control it stops at the first opening.
+bool MissionControlDetector::readsTheDockUnlisted() const {
+    return MissionControlHosts::running() == MissionControlHost::windowManager ||
+           !announcedByAWindow_;
 }
 
 bool MissionControlDetector::windowListShowsMissionControl() {
@@ -112,8 +121,10 @@ void MissionControlDetector::readInBackground(bool listed) {
     std::weak_ptr<int> alive = alive_;
     queue_->async([this, alive, dock = dock_, listed] {
         const bool open = dockAnswer(*dock).value_or(listed);
-        platform().executor.main().async([this, alive, open] {
-            if (alive.lock()) report(true, open);
+        platform().executor.main().async([this, alive, listed, open] {
+            if (!alive.lock()) return;
+            if (listed && open) announcedByAWindow_ = true;
+            report(true, open);
         });
     });
 }

@@ -13,8 +13,9 @@ namespace vistrel {
 // Tells whether Mission Control is open by polling, since macOS announces nothing. The
 // Dock's accessibility tree answers (it lists an "mc" group exactly while Mission Control
 // is open, and an "appexpose" group instead while App Exposé is), read on a background
-// queue so that the main thread never waits on the Dock. Up to macOS 26 a look at the
-// on-screen window list comes first: without a Dock window on layer 18 the tree is not read. A
+// queue so that the main thread never waits on the Dock. A look at the on-screen window list
+// comes first: once a Dock window on layer 18 has announced Mission Control (up to macOS 26),
+// the tree is read only while one shows. A
 // chain of one-shot timers on the main thread reports the answer on every poll: fast while Mission
 // Control is open, slowly while it is closed, more slowly still without the Accessibility grant, so
 // that an idle agent costs almost nothing.
@@ -64,9 +65,9 @@ class MissionControlDetector {
     void tick();
     // Hands the Dock's answer to the listener on the main thread once read on the queue.
     void readInBackground(bool listed);
-    // Whether the Dock's tree is read without a layer-18 window: on systems whose Mission
-    // Control never shows one (macOS 27 on).
-    static bool readsTheDockUnlisted();
+    // Whether the Dock's tree is read without a layer-18 window: on a system that says it is
+    // macOS 27 or later, and on any other until such a window has announced Mission Control.
+    bool readsTheDockUnlisted() const;
     void report(bool trusted, bool open);
 
     // The timer's closure holds this token weakly instead of the detector: once the
@@ -77,6 +78,9 @@ class MissionControlDetector {
     std::shared_ptr<SerialQueue> queue_;
     // Shared with the job on the queue, which must not reach into a detector that is gone.
     std::shared_ptr<ApplicationElement> dock_;
+    // A layer-18 window was listed while the Dock showed Mission Control: this system
+    // announces it, whatever version it tells.
+    bool announcedByAWindow_ = false;
 };
 
 }  // namespace vistrel

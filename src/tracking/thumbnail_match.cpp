@@ -65,6 +65,10 @@ Fit fit(const Thumbnail& thumbnail, std::span<const Window> windows) {
                   [&](const Window& window) { return window.title.starts_with(title); });
 }
 
+bool stillShows(std::string_view titleWhenTied, const std::optional<std::string>& titleNow) {
+    return titleNow && *titleNow == titleWhenTied;
+}
+
 std::optional<std::string> bundleOfIdentifier(std::string_view identifier) {
     const auto at = identifier.rfind(spaceInfix);
     if (at == std::string_view::npos || at == 0) return std::nullopt;

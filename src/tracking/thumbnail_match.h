@@ -57,6 +57,11 @@ struct Fit {
 // application its identifier names.
 Fit fit(const Thumbnail& thumbnail, std::span<const Window> windows);
 
+// Whether a window tied to a thumbnail is still the one it shows when the pointer comes: its
+// title must read now as it did when it was tied. A window whose title changed in between
+// (or can no longer be read) may show another document: the target is dropped.
+bool stillShows(std::string_view titleWhenTied, const std::optional<std::string>& titleNow);
+
 // "<bundle id>.space.<n>" → the bundle identifier; nothing for any other shape.
 std::optional<std::string> bundleOfIdentifier(std::string_view identifier);
 

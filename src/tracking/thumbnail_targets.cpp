@@ -105,7 +105,9 @@ std::optional<AX::WindowHit> ThumbnailTargets::at(Point point, std::uint64_t gen
     if (!winner) return std::nullopt;
     const Tie& tie = ties_[winner->second];
     if (!tie.window) return std::nullopt;
-    if (AX::string(tie.window->window, titleAttribute) != tie.windowTitle) return std::nullopt;
+    if (!ThumbnailMatch::stillShows(tie.windowTitle,
+                                    AX::string(tie.window->window, titleAttribute)))
+        return std::nullopt;
     return tie.window;
 }
 

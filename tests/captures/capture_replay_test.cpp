@@ -1,6 +1,6 @@
 // Every capture of a real Mac's Mission Control in this folder, replayed as a scene: the
 // agent sees Mission Control open, reads every thumbnail of the current desktop with its
-// frame, finds at each thumbnail's centre the window the thumbnail shows, and hovers it.
+// frame, and hovers at each thumbnail's centre the window the thumbnail shows.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -95,17 +95,6 @@ TEST_P(CaptureReplayTest, EveryThumbnailOfTheDesktopIsReadWithItsFrame) {
     for (const Expected& thumbnail : expected)
         frames.push_back(thumbnail.thumbnail);
     EXPECT_EQ(ThumbnailReader().frames(), frames);
-}
-
-TEST_P(CaptureReplayTest, PointerAtEachThumbnailsCentreResolvesToItsWindow) {
-    for (const Expected& thumbnail : expected) {
-        SCOPED_TRACE(::testing::Message()
-                     << "thumbnail at " << thumbnail.thumbnail.x << ", " << thumbnail.thumbnail.y);
-        const auto hit = AX::windowAt(thumbnail.thumbnail.mid());
-        ASSERT_TRUE(hit);
-        EXPECT_EQ(hit->pid, thumbnail.pid);
-        EXPECT_EQ(AX::frame(hit->window), thumbnail.window);
-    }
 }
 
 // What the agent itself would hover: the thumbnails read, tied to windows once, and the

@@ -166,7 +166,6 @@ inline bool readingKeepsItsPromise(std::string_view bytes) {
     const MissionControlReading reading = targets.update(1, read, desktop.ownPid);
     if (std::size_t(reading.thumbnails) != thumbnails.size()) return false;
     if (reading.mapped + reading.refusals > reading.thumbnails) return false;
-    fprintf(stderr, "STAT %d %d %d\n", reading.thumbnails, reading.mapped, reading.refusals);
     for (const MissionControlThumbnail& thumbnail : thumbnails) {
         const Point centre = thumbnail.frame.mid();
         const auto hit = targets.at(centre, 1);

@@ -128,7 +128,7 @@ TEST_F(AccessibilityTimeoutsTest, TheHitTestAndWhatItAnswersWaitTwoTenths) {
     for (const auto& thumbnail : desktop.dock().thumbnails()) {
         if (thumbnail.window == windowOf(notes)) thumb = thumbnail.frame;
     }
-    ASSERT_TRUE(AX::windowAt(thumb.mid()));
+    ASSERT_TRUE(AX::hitWindow(thumb.mid()));
     EXPECT_EQ(timeoutsOf(notes), (std::vector<float>{AX::systemWideTimeout}));
 }
 

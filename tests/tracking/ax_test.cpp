@@ -34,7 +34,7 @@ class AXTest : public testing::SimTest {
 
 TEST_F(AXTest, PointOverTitleTextReturnsTheWindowThroughItsWindowAttribute) {
     desktop.accessibility().resetCounts();
-    const auto hit = AX::windowAt(titleText);
+    const auto hit = AX::hitWindow(titleText);
     ASSERT_TRUE(hit.has_value());
     EXPECT_EQ(hit->window, element());
     EXPECT_EQ(hit->pid, pid);
@@ -44,26 +44,26 @@ TEST_F(AXTest, PointOverTitleTextReturnsTheWindowThroughItsWindowAttribute) {
 
 TEST_F(AXTest, PointOverTheWindowItselfCostsOneAttributeRead) {
     desktop.accessibility().resetCounts();
-    const auto hit = AX::windowAt(body);
+    const auto hit = AX::hitWindow(body);
     ASSERT_TRUE(hit.has_value());
     EXPECT_EQ(hit->window, element());
     EXPECT_EQ(desktop.accessibility().attributeReads(), 1u);
 }
 
 TEST_F(AXTest, PointOverTheDesktopReturnsNothing) {
-    EXPECT_FALSE(AX::windowAt(desktopPoint));
+    EXPECT_FALSE(AX::hitWindow(desktopPoint));
 }
 
 TEST_F(AXTest, PointOverAnElementWithoutAWindowReturnsNothing) {
     desktop.dock().open();
     // Mission Control's background belongs to the Dock and has no window.
     const auto thumbnail = desktop.dock().thumbnails().front().frame;
-    EXPECT_TRUE(AX::windowAt({thumbnail.minX() - 10, thumbnail.minY() - 10}) == std::nullopt);
+    EXPECT_TRUE(AX::hitWindow({thumbnail.minX() - 10, thumbnail.minY() - 10}) == std::nullopt);
 }
 
 TEST_F(AXTest, WithoutTheAccessibilityGrantNothingIsFound) {
     desktop.trusted = false;
-    EXPECT_FALSE(AX::windowAt(body));
+    EXPECT_FALSE(AX::hitWindow(body));
     EXPECT_FALSE(AX::string(element(), "AXTitle"));
 }
 
@@ -74,7 +74,7 @@ TEST_F(AXTest, HitTestsStartFromTheSystemWideElementWithItsShortTimeout) {
 TEST_F(AXTest, HungApplicationGivesNothingWithinTheSystemWideTimeout) {
     desktop.application(pid)->hung = true;
     const double start = desktop.clock().now();
-    EXPECT_FALSE(AX::windowAt(titleText));
+    EXPECT_FALSE(AX::hitWindow(titleText));
     EXPECT_NEAR(desktop.clock().now() - start, AX::systemWideTimeout, 1e-6);
 }
 
@@ -83,7 +83,7 @@ TEST_F(AXTest, HungApplicationUnderAThumbnailGivesNothingWithinTheSystemWideTime
     desktop.application(pid)->hung = true;
     const Point over = desktop.dock().thumbnails().front().frame.mid();
     const double start = desktop.clock().now();
-    EXPECT_FALSE(AX::windowAt(over));
+    EXPECT_FALSE(AX::hitWindow(over));
     EXPECT_NEAR(desktop.clock().now() - start, AX::systemWideTimeout, 1e-6);
 }
 
@@ -95,7 +95,7 @@ TEST_F(AXTest, HungHitTestOnTheHoverQueueNeverBlocksTheMainQueue) {
     std::optional<AX::WindowHit> result = AX::WindowHit{};
     const double start = desktop.clock().now();
     hover->async([&] {
-        auto hit = AX::windowAt(body);
+        auto hit = AX::hitWindow(body);
         platform().executor.main().async([&, hit] {
             result = hit;
             answered = true;

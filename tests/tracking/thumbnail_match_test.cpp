@@ -87,6 +87,48 @@ TEST(ThumbnailMatchProperty, AThumbnailWhoseTitleNoWindowBeginsWithFitsNone) {
     }
 }
 
+// The window's title as it may read at the hover after the read that tied it: another
+// document, an edit mark, a shortened or emptied title, another window's title.
+std::string changedTitle(Desktops& desktops, const std::string& title,
+                         const std::vector<Window>& windows) {
+    switch (desktops.between(0, 5)) {
+        case 0:
+            return title + " — Edited";
+        case 1:
+            return "• " + title;
+        case 2:
+            return title.substr(0, title.size() - 1);
+        case 3:
+            return "";
+        case 4:
+            return "Untitled " + std::to_string(desktops.between(1, 9));
+        default:
+            for (const Window& other : windows) {
+                if (other.title != title) return other.title;
+            }
+            return title + " 2";
+    }
+}
+
+TEST(ThumbnailMatchProperty, ATitleChangedBetweenTheReadAndTheHoverDropsTheTarget) {
+    Desktops desktops(24);
+    for (int round = 0; round < rounds; ++round) {
+        auto windows = desktops.windows();
+        const auto shown = static_cast<std::size_t>(desktops.between(0, int(windows.size()) - 1));
+        const Thumbnail thumbnail{windows[shown].title, std::nullopt,
+                                  desktops.thumbnailOf(windows[shown]), std::nullopt};
+        const Fit tied = ThumbnailMatch::fit(thumbnail, windows);
+        ASSERT_EQ(tied, (Fit{shown, false})) << round;
+        const std::string titleWhenTied = windows[shown].title;
+        EXPECT_TRUE(ThumbnailMatch::stillShows(titleWhenTied, windows[shown].title)) << round;
+
+        windows[shown].title = changedTitle(desktops, titleWhenTied, windows);
+        EXPECT_FALSE(ThumbnailMatch::stillShows(titleWhenTied, windows[shown].title))
+            << round << ": \"" << windows[shown].title << '"';
+        EXPECT_FALSE(ThumbnailMatch::stillShows(titleWhenTied, std::nullopt)) << round;
+    }
+}
+
 TEST(ThumbnailMatch, AnEqualTitleWinsOverOneThatBeginsWithIt) {
     const std::vector<Window> windows{{"Notes 2", "a", {0, 0, 800, 600}},
                                       {"Notes", "a", {0, 0, 800, 600}}};

@@ -54,6 +54,17 @@ TEST_F(ThumbnailTargetsTest, AReadOfAnotherOpeningAnswersNothing) {
     EXPECT_FALSE(targets.at(frame.mid(), 2));
 }
 
+// The window was tied at the read; by the hover it shows another document.
+TEST_F(ThumbnailTargetsTest, AWindowRetitledBetweenTheReadAndTheHoverIsNoTarget) {
+    const Rect frame{0, 0, 100, 100};
+    targets.update(1, {MissionControlHost::windowManager, {thumbnail(frame)}}, desktop.ownPid);
+    ASSERT_TRUE(targets.at(frame.mid(), 1));
+    desktop.window(window)->title = "Report (old draft)";
+    EXPECT_FALSE(targets.at(frame.mid(), 1));
+    desktop.window(window)->title = "Report";
+    EXPECT_TRUE(targets.at(frame.mid(), 1));
+}
+
 TEST(ThumbnailMatchShape, TheAnswerDoesNotDependOnTheOrder) {
     const Rect a{0, 0, 140, 100};
     const Rect b{0, 0, 400, 300};

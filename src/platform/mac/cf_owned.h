@@ -7,6 +7,8 @@
 #include <string>
 #include <type_traits>
 
+#include "base/text_by_length.h"
+
 namespace vistrel {
 
 // Releases a Core Foundation object when it goes out of scope.
@@ -20,16 +22,16 @@ struct CFReleaser {
 template <typename Ref>
 using CFOwned = std::unique_ptr<std::remove_pointer_t<Ref>, CFReleaser>;
 
-// A CFString as UTF-8 text; nothing when it cannot be converted.
+// A CFString as UTF-8 text, by its length (an embedded NUL and what follows it stay);
+// nothing for no string and for one that cannot be converted whole.
 inline std::optional<std::string> textOf(CFStringRef string) {
-    const CFIndex capacity =
-        CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), kCFStringEncodingUTF8) + 1;
-    std::string text(static_cast<std::size_t>(capacity), '\0');
-    if (!CFStringGetCString(string, text.data(), capacity, kCFStringEncodingUTF8)) {
-        return std::nullopt;
-    }
-    text.resize(std::char_traits<char>::length(text.c_str()));
-    return text;
+    if (string == nullptr) return std::nullopt;
+    const CFIndex length = CFStringGetLength(string);
+    return textByLength(length, [string, length](UInt8* buffer, CFIndex capacity, CFIndex& used) {
+        // A loss byte of 0: the conversion stops at the first character it cannot convert.
+        return CFStringGetBytes(string, CFRangeMake(0, length), kCFStringEncodingUTF8, 0, false,
+                                buffer, capacity, &used);
+    });
 }
 
 }  // namespace vistrel

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/mac/cf_owned.h"
+
 namespace vistrel {
 
 // Text between the core's UTF-8 strings and Foundation's, by length in both directions:
@@ -12,12 +14,11 @@ namespace vistrel {
 // "applySettings") and answers NULL for a string it cannot convert.
 
 // Nothing for nil, for an object that is not a string, and for a string that has no
-// lossless UTF-8 form (dataUsingEncoding: answers nil then).
+// lossless UTF-8 form. An NSString is a CFString (toll-free bridged), so both convert with
+// the one helper, `textOf`.
 inline std::optional<std::string> utf8Text(id value) {
     if (value == nil || ![value isKindOfClass:[NSString class]]) return std::nullopt;
-    NSData* bytes = [(NSString*)value dataUsingEncoding:NSUTF8StringEncoding];
-    if (bytes == nil) return std::nullopt;
-    return std::string(static_cast<const char*>(bytes.bytes), bytes.length);
+    return textOf((__bridge CFStringRef)value);
 }
 
 // The empty string wherever `utf8Text` answers nothing.

@@ -69,6 +69,7 @@ class CaptureLoader {
             }
         }
         enumerated_ = capture.value("applications", json::array());
+        addDisplays(capture.value("displays", json::array()));
         addApplications(capture.at("windows"));
         addProcessTree(capture, "dock", "com.apple.dock", "Dock");
         addProcessTree(capture, "windowManager", "com.apple.WindowManager", "WindowManager");
@@ -77,6 +78,29 @@ class CaptureLoader {
     }
 
   private:
+    // The captured displays in place of the empty desktop's one, when the capture has them:
+    // their numbers, UUIDs and frames (AppKit's coordinates).
+    void addDisplays(const json& displays) {
+        std::vector<ScreenDescription> screens;
+        for (const json& entry : displays) {
+            const auto frame = rectangleOf(entry.value("frame", json()));
+            if (!frame) continue;
+            ScreenDescription screen;
+            screen.frame = *frame;
+            screen.visibleFrame = rectangleOf(entry.value("visibleFrame", json())).value_or(*frame);
+            if (entry.contains("scale") && entry["scale"].is_number())
+                screen.backingScaleFactor = entry["scale"].get<double>();
+            if (entry.contains("displayID") && entry["displayID"].is_number_unsigned()) {
+                const auto number = entry["displayID"].get<std::uint32_t>();
+                screen.displayID = number;
+                if (entry.contains("uuid") && entry["uuid"].is_string())
+                    desktop_.windowServer().displayUUIDs[number] = entry["uuid"].get<std::string>();
+            }
+            screens.push_back(std::move(screen));
+        }
+        if (!screens.empty()) desktop_.screens() = std::move(screens);
+    }
+
     void addApplications(const json& windows) {
         std::map<Pid, Pid> pids;
         // The list runs front to back and a new simulated window opens in front: add the

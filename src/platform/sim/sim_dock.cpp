@@ -70,7 +70,7 @@ Pid SimDock::restart() {
 }
 
 bool SimDock::hostedByWindowManager() const {
-    return desktop_.systemInfo().version.major >= firstWindowManagerMajor;
+    return desktop_.systemInfo().runningMajor() >= firstWindowManagerMajor;
 }
 
 Pid SimDock::hostPid() const {

@@ -34,7 +34,8 @@ struct SimOtherDesktopWindow {
 };
 
 // The Dock process and its Mission Control, as the agent sees them, in the two generations
-// of macOS (chosen by the desktop's operating system version when Mission Control opens).
+// of macOS (chosen, when Mission Control opens, by the version the desktop's system really
+// runs, which may be newer than the one it tells).
 // A running application "com.apple.dock" with its bar, a window on layer 20. Up to macOS 26,
 // while Mission Control is open: one window per screen on layer 18 and the tree
 //   Dock → "mc" → "mc.display" (one per screen) → "mc.spaces", "mc.windows" → thumbnails.

@@ -15,8 +15,15 @@ class SimSystemInfo : public SystemInfo {
     std::optional<std::string> hardwareModel() override { return model; }
     int processorCount() override { return processors; }
 
+    // The major version the system really runs; what Mission Control looks like follows it.
+    int runningMajor() const { return actualMajor.value_or(version.major); }
+
     std::string versionString = "Version 15.1 (Build 24B83)";
+    // The version told to the agent.
     OperatingSystemVersion version{15, 1, 0};
+    // Set when the system tells the agent an older, compatibility version than it runs, as
+    // macOS answers programs linked against an older SDK (26 told them 16).
+    std::optional<int> actualMajor;
     // Nothing makes the system control fail.
     std::optional<std::string> model = "Mac15,3";
     int processors = 8;

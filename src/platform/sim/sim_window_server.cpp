@@ -23,6 +23,8 @@ std::optional<std::vector<WindowDescription>> SimWindowServer::windowList(std::u
 std::optional<std::string> SimWindowServer::displayUUID(std::uint32_t displayID) {
     for (const ScreenDescription& screen : desktop_.screens()) {
         if (screen.displayID != displayID) continue;
+        if (const auto given = displayUUIDs.find(displayID); given != displayUUIDs.end())
+            return given->second;
         char text[40];
         std::snprintf(text, sizeof text, "5A1D0000-0000-4000-8000-%012X", displayID);
         return std::string(text);

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -24,6 +26,8 @@ class SimWindowServer : public WindowServer {
 
     // Descriptions listed in front of every application window.
     std::vector<WindowDescription> frontWindows;
+    // UUIDs a scene gives displays (a captured Mac's), answered before the made-up ones.
+    std::map<std::uint32_t, std::string> displayUUIDs;
     // The window server answers with no list at all.
     bool listFails = false;
     // Every key event posted, in order: (key code, down).

@@ -16,6 +16,17 @@ typedef unsigned long CFTypeID;
 typedef unsigned long CFHashCode;
 typedef unsigned long CFOptionFlags;
 
+// A part of a linear sequence: its first index and how many items it spans.
+typedef struct {
+    CFIndex location;
+    CFIndex length;
+} CFRange;
+
+static inline CFRange CFRangeMake(CFIndex loc, CFIndex len) {
+    CFRange range = {loc, len};
+    return range;
+}
+
 typedef const void* CFTypeRef;
 typedef const struct __CFAllocator* CFAllocatorRef;
 typedef const struct __CFString* CFStringRef;

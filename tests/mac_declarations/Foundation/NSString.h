@@ -2,8 +2,6 @@
 
 #include <Foundation/NSObject.h>
 
-@class NSData;
-
 typedef NSUInteger NSStringEncoding;
 enum : NSStringEncoding {
     NSUTF8StringEncoding = 4,
@@ -19,5 +17,4 @@ enum : NSStringEncoding {
                                 length:(NSUInteger)len
                               encoding:(NSStringEncoding)encoding;
 // Nil when the string has no lossless form in the encoding.
-- (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding;
 @end
