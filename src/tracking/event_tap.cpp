@@ -7,6 +7,7 @@
 #include "base/log.h"
 #include "platform/platform.h"
 #include "tracking/health.h"
+#include "tracking/tap_callback.h"
 
 namespace vistrel {
 
@@ -75,6 +76,7 @@ bool EventTap::isRunning() const {
 }
 
 bool EventTap::handle(const InputEvent& event) {
+    const TapCallback::Scope callback;
     if (event.type == EventType::tapDisabledByTimeout ||
         event.type == EventType::tapDisabledByUserInput) {
         if (port_ != nullptr) port_->enable(true);

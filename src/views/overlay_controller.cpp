@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "settings/preference_key.h"
 #include "settings/shared.h"
+#include "views/turn_deferred_window.h"
 #include "windows/screens.h"
 
 namespace vistrel {
@@ -48,7 +49,8 @@ OverlayController::OverlayController() : window_(makeWindow()) {
 }
 
 std::unique_ptr<AgentWindow> OverlayController::makeWindow() {
-    auto window = platform().windowHost.makeWindow(WindowDeferral::deferred);
+    auto window = std::make_unique<TurnDeferredWindow>(
+        platform().windowHost.makeWindow(WindowDeferral::deferred));
     window->setLevel(AgentWindowLevel::overlay);
     window->setCollectionBehavior(WindowCollectionBehavior::agentOverlay);
     window->setIgnoresMouseEvents(true);
