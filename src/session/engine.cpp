@@ -1,5 +1,6 @@
 #include "session/engine.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/hotkey.h"
@@ -165,6 +166,8 @@ void Engine::refreshThumbnails() {
 
 void Engine::thumbnailsRead(const std::vector<Rect>& frames, const MissionControlReading& reading) {
     thumbs_ = frames;
+    targetThumbRead_ =
+        targetThumb_ && std::find(frames.begin(), frames.end(), *targetThumb_) != frames.end();
     reading_ = reading;
     readThisOpening_ = true;
     if (!hostLogged_ && reading.host) {
@@ -246,6 +249,7 @@ void Engine::apply(const std::optional<Target>& candidate, Point point) {
     }
     target_ = candidate;
     targetThumb_ = winner;
+    targetThumbRead_ = true;
     layout_ = std::move(strip);
     overlay_.show(*layout_);
 }
@@ -286,7 +290,8 @@ void Engine::pointerMoved(Point point) {
         overlay_.setHovered(hovered);
         return;
     }
-    if (!smallestThumbAt(point)) {
+    const bool overTarget = targetThumbRead_ && targetThumb_->contains(point);
+    if (!overTarget && !smallestThumbAt(point)) {
         clearTarget();
         return;
     }
@@ -351,6 +356,7 @@ void Engine::clearTarget() {
     target_.reset();
     layout_.reset();
     targetThumb_.reset();
+    targetThumbRead_ = false;
     overlay_.hide();
 }
 

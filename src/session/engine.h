@@ -114,6 +114,9 @@ class Engine : public EventTapDelegate, public std::enable_shared_from_this<Engi
     std::optional<Target> target_;
     std::optional<OverlayLayout> layout_;
     std::optional<Rect> targetThumb_;
+    // The hovered thumbnail is among those last read: a move over it needs no look through
+    // all of them, which with hundreds of windows is most of a move's cost.
+    bool targetThumbRead_ = false;
     std::optional<Point> lastPoint_;
     bool tapFailureLogged_ = false;
     Pid ownPid_ = 0;
