@@ -41,7 +41,8 @@ TEST(AutomationDeclaration, TheAgentsBundleSaysWhyItAsksFinder) {
 }
 
 TEST(URLSchemeDeclaration, TheSettingsAppDoesNotClaimTheScheme) {
-    std::ifstream file(std::string(VISTREL_SOURCE_DIR) + "/src/settings_app/mac/Info.plist.in");
+    std::ifstream file(std::string(VISTREL_SOURCE_DIR) +
+                       "/src/platform/mac/settings_app/Info.plist.in");
     std::stringstream text;
     text << file.rdbuf();
     ASSERT_FALSE(text.str().empty());

@@ -32,10 +32,10 @@ bool isAppleHeader(const std::string& header) {
            appleFrameworks.end();
 }
 
-// The macOS layer: every folder named "mac" (the implementation, the agent's entry point,
+// The macOS layer: platform/mac and its folders (the implementation, the agent's entry point,
 // the Settings app's renderer).
 bool inMacLayer(const std::string& path) {
-    return path.starts_with("mac/") || path.find("/mac/") != std::string::npos;
+    return path.starts_with("platform/mac/");
 }
 
 bool isSource(const fs::path& path) {

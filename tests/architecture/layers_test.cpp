@@ -99,7 +99,7 @@ TEST(Layers, FlagsAppleFrameworkHeadersOutsideTheMacFolders) {
     const std::string text =
         "#include <CoreGraphics/CoreGraphics.h>\n#import <AppKit/AppKit.h>\n#include <os/log.h>\n";
     EXPECT_EQ(includeViolations(layers, "tracking/a.cpp", text).size(), 3u);
-    EXPECT_TRUE(includeViolations(layers, "app/mac/main.mm", text).empty());
+    EXPECT_TRUE(includeViolations(layers, "platform/mac/agent/main.mm", text).empty());
 }
 
 const std::string drawingWithImplementations =

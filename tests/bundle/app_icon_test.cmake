@@ -2,7 +2,7 @@
 # build draws and copies into their Resources (CFBundleIconFile "Vistrel" finds
 # Resources/Vistrel.icns, the extension being optional).
 set(icon_entry "\t<key>CFBundleIconFile</key>\n\t<string>Vistrel</string>\n")
-foreach(plist src/platform/mac/Info.plist.in src/settings_app/mac/Info.plist.in)
+foreach(plist src/platform/mac/Info.plist.in src/platform/mac/settings_app/Info.plist.in)
   file(READ ${SOURCE_DIR}/${plist} text)
   string(FIND "${text}" "${icon_entry}" at)
   if(at EQUAL -1)

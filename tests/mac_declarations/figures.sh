@@ -15,7 +15,7 @@ lines_in() {
         xargs -0 cat | wc -l
 }
 echo "lines of code in src/:              $(lines_in "$source_dir/src")"
-echo "  of which macOS-only:               $(lines_in "$source_dir/src/platform/mac" "$source_dir/src/app/mac" "$source_dir/src/settings_app/mac")"
+echo "  of which macOS-only:               $(lines_in "$source_dir/src/platform/mac")"
 
 source "$declarations/mac_target_flags.sh"
 flags=()

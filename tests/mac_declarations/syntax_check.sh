@@ -13,9 +13,9 @@ arch=$2
 source_dir=$3
 mode=$4
 declarations="$source_dir/tests/mac_declarations"
-# The macOS layer: the platform's implementation, the agent's entry point and the Settings
-# app's AppKit renderer.
-layers=("$source_dir/src/platform/mac" "$source_dir/src/app/mac" "$source_dir/src/settings_app/mac")
+# The macOS layer: the platform's implementation, and in its folders the agent's entry point
+# and the Settings app's AppKit renderer.
+layers=("$source_dir/src/platform/mac")
 
 case "$arch" in
     arm64) bool_is_bool=1 ;;

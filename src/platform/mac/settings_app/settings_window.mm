@@ -1,11 +1,11 @@
-#include "settings_app/mac/settings_window.h"
+#include "platform/mac/settings_app/settings_window.h"
 
 #include <cstdint>
 
 #include "platform/mac/mac_block_target.h"
 #include "platform/mac/mac_strings.h"
-#include "settings_app/mac/settings_page_view.h"
-#include "settings_app/mac/settings_sidebar.h"
+#include "platform/mac/settings_app/settings_page_view.h"
+#include "platform/mac/settings_app/settings_sidebar.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "platform/mac/mac_platform.h"
+#include "platform/mac/settings_app/settings_main_menu.h"
+#include "platform/mac/settings_app/settings_window.h"
 #include "settings/shared.h"
 #include "settings_app/launch_options.h"
-#include "settings_app/mac/settings_main_menu.h"
-#include "settings_app/mac/settings_window.h"
 #include "settings_app/settings_model.h"
 #include "ui/kit/dfkit_fonts.h"
 

@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_layout_windows.h"
+#include "platform/mac/settings_app/settings_layout_windows.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_layout_list.h"
+#include "platform/mac/settings_app/settings_layout_list.h"
 
 #include <algorithm>
 #include <optional>
@@ -6,8 +6,8 @@
 
 #include "platform/mac/mac_block_target.h"
 #include "platform/mac/mac_strings.h"
+#include "platform/mac/settings_app/settings_layout_windows.h"
 #include "platform/platform.h"
-#include "settings_app/mac/settings_layout_windows.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_main_menu.h"
+#include "platform/mac/settings_app/settings_main_menu.h"
 
 #include "platform/mac/mac_block_target.h"
 

@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_group_view.h"
+#include "platform/mac/settings_app/settings_group_view.h"
 
 namespace {
 

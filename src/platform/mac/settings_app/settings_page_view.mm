@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_page_view.h"
+#include "platform/mac/settings_app/settings_page_view.h"
 
 #include <functional>
 #include <vector>
@@ -7,9 +7,9 @@
 #include "platform/mac/mac_appearance_name.h"
 #include "platform/mac/mac_block_target.h"
 #include "platform/mac/mac_strings.h"
-#include "settings_app/mac/settings_group_view.h"
-#include "settings_app/mac/settings_layout_list.h"
-#include "settings_app/mac/settings_widgets.h"
+#include "platform/mac/settings_app/settings_group_view.h"
+#include "platform/mac/settings_app/settings_layout_list.h"
+#include "platform/mac/settings_app/settings_widgets.h"
 
 namespace {
 

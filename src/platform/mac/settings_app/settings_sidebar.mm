@@ -1,4 +1,4 @@
-#include "settings_app/mac/settings_sidebar.h"
+#include "platform/mac/settings_app/settings_sidebar.h"
 
 #include "platform/mac/mac_strings.h"
 
