@@ -1,5 +1,6 @@
 // macOS tells a program linked against an older SDK an older, compatibility version (26
-// told such programs 16). A macOS 27 that calls itself 16 shows no layer-18 window in
+// told such programs 16: dotnet/runtime pull request 116536, python/cpython pull request
+// 136339). A macOS 27 that calls itself 16 shows no layer-18 window in
 // Mission Control, so the version must not decide whether the Dock's tree is read: the
 // agent still sees Mission Control open, shows the strip, and leaves it with Escape.
 #include <gtest/gtest.h>
@@ -10,12 +11,22 @@
 
 #include "engine_scenario.h"
 #include "layouts/layout_actions.h"
+#include "support/presented.h"
 #include "tracking/mission_control_detector.h"
 
 namespace vistrel::testing {
 namespace {
 
 using Keys = std::vector<std::pair<std::uint16_t, bool>>;
+
+// macOS 27, in each way it may show Mission Control, telling the agent 16.
+class MacOS27ToldSixteenTest : public Presented<EngineScenario> {
+  protected:
+    MacOS27ToldSixteenTest() {
+        desktop.systemInfo().actualMajor = desktop.systemInfo().version.major;
+        desktop.systemInfo().version = {16, 0, 0};
+    }
+};
 
 class OlderVersionToldTest : public EngineScenario {
   protected:
@@ -25,7 +36,7 @@ class OlderVersionToldTest : public EngineScenario {
     }
 };
 
-TEST_F(OlderVersionToldTest, MacOS27ToldSixteenIsSeenInMissionControlWithoutALayer18Window) {
+TEST_P(MacOS27ToldSixteenTest, IsSeenInMissionControlWithoutALayer18Window) {
     desktop.dock().open();
     ASSERT_FALSE(MissionControlDetector::windowListShowsMissionControl());
     EXPECT_TRUE(MissionControlDetector::isMissionControlOpen());
@@ -34,7 +45,7 @@ TEST_F(OlderVersionToldTest, MacOS27ToldSixteenIsSeenInMissionControlWithoutALay
     EXPECT_EQ(logged("mission control: reading WindowManager"), 1u);
 }
 
-TEST_F(OlderVersionToldTest, MacOS27ToldSixteenShowsTheStripOverAHoveredThumbnail) {
+TEST_P(MacOS27ToldSixteenTest, ShowsTheStripOverAHoveredThumbnail) {
     openMissionControl();
     const Rect thumb = thumbOf("Notes");
     move(inside(thumb));
@@ -45,7 +56,7 @@ TEST_F(OlderVersionToldTest, MacOS27ToldSixteenShowsTheStripOverAHoveredThumbnai
     EXPECT_TRUE(engine->overlay().window().isVisible());
 }
 
-TEST_F(OlderVersionToldTest, MacOS27ToldSixteenIsLeftWithEscapeAfterALayout) {
+TEST_P(MacOS27ToldSixteenTest, IsLeftWithEscapeAfterALayout) {
     openMissionControl();
     ASSERT_TRUE(engine->active());
     LayoutActions::leaveMissionControl({});
@@ -71,6 +82,11 @@ TEST_F(OlderVersionToldTest, ASystemThatAnnouncesMissionControlStopsReadingTheDo
     desktop.executor().advance(2);
     EXPECT_EQ(desktop.accessibility().attributeReads("AXChildren"), 0u);
 }
+
+INSTANTIATE_TEST_SUITE_P(MacOS27Presentations, MacOS27ToldSixteenTest,
+                         ::testing::Values(SimPresentation::numberedThumbnails,
+                                           SimPresentation::unnumberedThumbnails),
+                         PresentationName{});
 
 }  // namespace
 }  // namespace vistrel::testing

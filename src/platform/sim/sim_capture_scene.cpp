@@ -79,7 +79,8 @@ class CaptureLoader {
 
   private:
     // The captured displays in place of the empty desktop's one, when the capture has them:
-    // their numbers, UUIDs and frames (AppKit's coordinates).
+    // their numbers, UUIDs and frames (AppKit's coordinates), as the capture tool read them
+    // from NSScreen and CGDisplayCreateUUIDFromDisplayID on the user's Mac.
     void addDisplays(const json& displays) {
         std::vector<ScreenDescription> screens;
         for (const json& entry : displays) {

@@ -22,7 +22,8 @@ class SimSystemInfo : public SystemInfo {
     // The version told to the agent.
     OperatingSystemVersion version{15, 1, 0};
     // Set when the system tells the agent an older, compatibility version than it runs, as
-    // macOS answers programs linked against an older SDK (26 told them 16).
+    // macOS answers programs linked against an older SDK: 26 tells them 16, as Big Sur told
+    // them 10.16 (dotnet/runtime pull request 116536, python/cpython pull request 136339).
     std::optional<int> actualMajor;
     // Nothing makes the system control fail.
     std::optional<std::string> model = "Mac15,3";
